@@ -1,0 +1,42 @@
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+
+class SoCoordinate3;
+class SoMaterial;
+class SoQuadMesh;
+class SoSeparator;
+
+/**
+ * Owning pointer to a scene node: holds one count of the node's own reference count.
+ *
+ * A pointer member of this type keeps the node alive; a bare node pointer never owns.
+ */
+template <typename Node>
+using NodePointer = boost::intrusive_ptr<Node>;
+
+/**
+ * Small makers of scene nodes that the models share.
+ *
+ * Every returned node is new and unreferenced: the caller adds it to a scene, which then owns it.
+ * Tables are arrays of float[3] (x, y, z or red, green, blue in 0 to 1) and are copied into the
+ * node's fields. A count of 0 leaves the field without any value.
+ */
+namespace SceneNodes {
+
+/** A separator that bears the given scene name. */
+SoSeparator* createSeparator(const char* name);
+
+/** A material whose ambient, diffuse and specular colours are all the one given colour. */
+SoMaterial* createMaterial(float red, float green, float blue);
+
+/** Gives the ambient, the diffuse and the specular colours of a material the same table. */
+void setColors(SoMaterial& material, int count, const float (*colors)[3]);
+
+/** Coordinates holding a copy of the given points. */
+SoCoordinate3* createCoordinates(int count, const float (*points)[3]);
+
+/** A mesh of quadrilaterals over the coordinates in force, one row of vertices after the other. */
+SoQuadMesh* createQuadMesh(int verticesPerRow, int verticesPerColumn);
+
+} // namespace SceneNodes
