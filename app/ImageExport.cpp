@@ -1,0 +1,75 @@
+#include "app/ImageExport.h"
+
+#include "scene/SceneNodes.h"
+#include "viewer/OffscreenContexts.h"
+
+#include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
+#include <Inventor/SoOffscreenRenderer.h>
+#include <Inventor/actions/SoGLRenderAction.h>
+#include <Inventor/nodes/SoCamera.h>
+#include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <clocale>
+
+namespace {
+
+/** While it lives, C output functions write numbers with a decimal point. */
+class DecimalPoint {
+public:
+    DecimalPoint()
+        : numbers(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE)))
+        , previous(uselocale(numbers)) {}
+    ~DecimalPoint() {
+        uselocale(previous);
+        freelocale(numbers);
+    }
+    DecimalPoint(const DecimalPoint&) = delete;
+    DecimalPoint& operator=(const DecimalPoint&) = delete;
+
+private:
+    locale_t numbers;
+    locale_t previous;
+};
+
+/** The scene under the viewer's camera and headlight, which are not part of the scene itself. */
+NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root) {
+    NodePointer<SoSeparator> picture(new SoSeparator);
+    picture->addChild(viewer.getCamera());
+    if (viewer.isHeadlight()) {
+        picture->addChild(viewer.getHeadlight());
+    }
+    picture->addChild(root);
+    return picture;
+}
+
+} // namespace
+
+SbVec2s ImageExport::printSize(const SbVec2s& screenSize, float screenPixelsPerInch,
+                               int dotsPerInch) {
+    const auto inPrint = [&](short pixels) {
+        return static_cast<short>(static_cast<int>(pixels / screenPixelsPerInch) * dotsPerInch);
+    };
+    return {inPrint(screenSize[0]), inPrint(screenSize[1])};
+}
+
+bool ImageExport::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerViewer* viewer,
+                                    int dotsPerInch) {
+    const SbVec2s size = printSize(viewer->getViewportRegion().getViewportSizePixels(),
+                                   SoOffscreenRenderer::getScreenPixelsPerInch(), dotsPerInch);
+    if (size[0] <= 0 || size[1] <= 0) {
+        return false;
+    }
+    SbViewportRegion region;
+    region.setWindowSize(size);
+    region.setPixelsPerInch(static_cast<float>(dotsPerInch));
+
+    OffscreenContexts::install();
+    SoOffscreenRenderer renderer(region);
+    renderer.setBackgroundColor(viewer->getBackgroundColor());
+    renderer.getGLRenderAction()->setTransparencyType(viewer->getTransparencyType());
+    if (renderer.render(asSeenBy(*viewer, root).get()) == FALSE) {
+        return false;
+    }
+    const DecimalPoint decimalPoint;
+    return renderer.writeToPostScript(file) != FALSE && std::fflush(file) == 0;
+}

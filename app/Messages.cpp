@@ -1,0 +1,52 @@
+#include "app/Messages.h"
+
+#include <QDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+void Messages::selectHelixViewer() {
+    QMessageBox box;
+    box.setText("Select an Helix Viewer");
+    box.setIcon(QMessageBox::Warning);
+    box.exec();
+}
+
+void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
+    QDialog box(parent);
+    // The spelling is the system's own.
+    auto* text = new QLabel("This condition isn't satysfied:");
+    auto* picture = new QLabel;
+    picture->setPixmap(QPixmap(picturePath));
+    auto* ok = new QPushButton("Ok");
+    ok->setDefault(true);
+    QObject::connect(ok, SIGNAL(clicked()), &box, SLOT(accept()));
+
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(text);
+    layout->addWidget(picture);
+    layout->addWidget(ok);
+    box.setLayout(layout);
+    box.exec();
+}
+
+void Messages::warn(const QString& text, QWidget* parent) {
+    QMessageBox box(parent);
+    box.setText(text);
+    box.setIcon(QMessageBox::Warning);
+    box.exec();
+}
+
+QString Messages::askForFileToSave(const QString& nameFilter, const QString& suffix,
+                                   QWidget* parent) {
+    QFileDialog dialog(parent);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter(nameFilter);
+    dialog.setViewMode(QFileDialog::Detail);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
+}

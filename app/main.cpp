@@ -1,0 +1,31 @@
+#include "app/MainWindow.h"
+#include "app/StartUp.h"
+
+#include <Inventor/Qt/SoQt.h>
+#include <QApplication>
+#include <QPixmap>
+#include <QSplashScreen>
+#include <memory>
+
+int main(int argc, char** argv) {
+    StartUp::prepareEnvironment();
+    QApplication application(argc, argv);
+    StartUp::setPlugInPath();
+
+    QSplashScreen splash(QPixmap(":/images/splash.png"));
+    StartUp::showSplash(splash);
+
+    auto mainWindow = std::make_unique<MainWindow>();
+    QApplication::setActiveWindow(mainWindow.get());
+    SoQt::init(mainWindow.get());
+    mainWindow->setUpMainViewer();
+    SoQt::show(mainWindow.get());
+    splash.finish(mainWindow.get());
+
+    SoQt::mainLoop();
+    // The viewers go before the toolkit: closing does that, and nothing more when it is done.
+    mainWindow->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    SoQt::done();
+    return 0;
+}

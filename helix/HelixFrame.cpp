@@ -1,0 +1,98 @@
+#include "helix/HelixFrame.h"
+
+#include "viewer/FrameOwner.h"
+
+#include <Inventor/nodes/SoSeparator.h>
+#include <sstream>
+
+int HelixFrame::helix_nb = 0;
+
+HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, float blue,
+                       int vertexIndex, bool closable, FrameOwner* owner)
+    : SoQtGeneralViewerFrame(closable, owner)
+    , helix(u1, u2, u3, red, green, blue) {
+    initialize_helix(vertexIndex);
+}
+
+HelixFrame::~HelixFrame() {
+    if (mainWindow != nullptr) {
+        mainWindow->SayHypoImDead(getName());
+    }
+}
+
+void HelixFrame::initialize_helix(int index) {
+    ++helix_nb;
+    type = Type();
+    vertexIndex = index;
+    name = "Helix_" + std::to_string(helix_nb);
+}
+
+SbName HelixFrame::getName() const {
+    return name.c_str();
+}
+
+void HelixFrame::SetEventHandlers() {}
+
+void HelixFrame::Draw() {
+    removeSceneChild("Helix_Tube", root.get());
+    removeSceneChild("Helix_Ribbon", root.get());
+    root->addChild(helix.DrawTube());
+    root->addChild(helix.DrawRibbon());
+}
+
+void HelixFrame::reDraw(bool line, bool tube, bool ribbon) {
+    helix.generatePoints(line, tube, ribbon);
+    Draw();
+}
+
+void HelixFrame::refresh(float u1, float u2, float u3, int index, float red, float green,
+                         float blue) {
+    vertexIndex = index;
+    helix.refresh_param(u1, u2, u3, red, green, blue);
+    showU(u1, u2, u3);
+    reDraw(true, true, true);
+}
+
+void HelixFrame::showU(double u1, double u2, double u3) {
+    std::ostringstream text;
+    text << "U = (" << u1 << "; " << u2 << "; " << u3 << ")";
+    setTitle(text.str().c_str());
+}
+
+void HelixFrame::set_ribbon_range(double width, bool redraw) {
+    helix.setRibRange(static_cast<float>(width));
+    if (redraw) {
+        reDraw(false, false, true);
+    }
+}
+
+void HelixFrame::set_tube_radius(double radius, bool redraw) {
+    helix.setTubeR(static_cast<float>(radius));
+    if (redraw) {
+        reDraw(false, true, false);
+    }
+}
+
+void HelixFrame::set_precision_tube(int verticesPerRing, bool redraw) {
+    helix.setPrecisionTube(verticesPerRing);
+    helix.init_tables(false, true, false);
+    if (redraw) {
+        reDraw(false, true, false);
+    }
+}
+
+void HelixFrame::set_precision_line(int verticesPerTurn, bool redraw) {
+    helix.setPrecisionLine(verticesPerTurn);
+    helix.init_tables(true, true, true);
+    if (redraw) {
+        reDraw(true, true, true);
+    }
+}
+
+void HelixFrame::set_nturns(double turns, bool redraw) {
+    helix.setNTurns(static_cast<float>(turns));
+    helix.init_tables(true, true, true);
+    if (redraw) {
+        reDraw(true, true, true);
+    }
+}

@@ -1,0 +1,73 @@
+#include "tests/support/ViewDriver.h"
+
+#include "viewer/SoQtGeneralViewer.h"
+#include "viewer/SoQtGeneralViewerFrame.h"
+
+#include <Inventor/SbViewportRegion.h>
+#include <Inventor/nodes/SoCamera.h>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTest>
+
+namespace {
+
+/** Share of the pixels that a drawn scene covers at the very least. */
+constexpr double smallestCover = 0.01;
+
+} // namespace
+
+ViewDriver::ViewDriver(SoQtGeneralViewerFrame& drivenFrame)
+    : frame(&drivenFrame) {}
+
+QWidget& ViewDriver::widget() const { return *frame->getViewer()->getGLWidget(); }
+
+void ViewDriver::click(Qt::MouseButton button, QPoint position) const {
+    QTest::mouseMove(&widget(), position);
+    QTest::mouseClick(&widget(), button, Qt::NoModifier, position);
+}
+
+void ViewDriver::drag(Qt::MouseButton button, QPoint from, QPoint to) const {
+    QTest::mousePress(&widget(), button, Qt::NoModifier, from);
+    constexpr int steps = 4;
+    for (int step = 1; step <= steps; ++step) {
+        QMouseEvent move(QEvent::MouseMove, from + (to - from) * step / steps, Qt::NoButton, button,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget(), &move);
+    }
+    QTest::mouseRelease(&widget(), button, Qt::NoModifier, to);
+}
+
+void ViewDriver::key(Qt::Key key) const { QTest::keyClick(&widget(), key); }
+
+void ViewDriver::setPickingMode(bool picking) const { frame->getViewer()->setViewing(!picking); }
+
+QPoint ViewDriver::positionOf(const SbVec3f& point) const {
+    const SbViewportRegion& region = frame->getViewer()->getViewportRegion();
+    const SoCamera& camera = *frame->getViewer()->getCamera();
+    SbVec3f onScreen;
+    camera.getViewVolume(region.getViewportAspectRatio()).projectToScreen(point, onScreen);
+    const SbVec2s size = region.getViewportSizePixels();
+    return {static_cast<int>(onScreen[0] * static_cast<float>(size[0])),
+            static_cast<int>((1 - onScreen[1]) * static_cast<float>(size[1]))};
+}
+
+QImage ViewDriver::grab() const {
+    const QPoint corner = widget().mapToGlobal(QPoint(0, 0));
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, corner.x(), corner.y(), widget().width(), widget().height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+bool ViewDriver::isDrawn() const {
+    const QImage image = grab();
+    const SbColor& color = frame->getViewer()->getBackgroundColor();
+    const QRgb background = QColor::fromRgbF(color[0], color[1], color[2]).rgb();
+    int covered = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        covered += static_cast<int>(std::count_if(
+            line, line + image.width(), [&](QRgb pixel) { return pixel != background; }));
+    }
+    return covered > smallestCover * image.width() * image.height();
+}

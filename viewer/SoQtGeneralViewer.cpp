@@ -1,0 +1,62 @@
+#include "viewer/SoQtGeneralViewer.h"
+
+#include "viewer/SoQtGeneralViewerFrame.h"
+
+#include <Inventor/events/SoKeyboardEvent.h>
+#include <Inventor/nodes/SoOrthographicCamera.h>
+#include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <QGLWidget>
+
+SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed)
+    : SoQtExaminerViewer(owner, name, embed, SoQtFullViewer::BUILD_ALL, SoQtViewer::BROWSER)
+    , frame(owner) {
+    setCameraType(SoOrthographicCamera::getClassTypeId());
+    setPopupMenuEnabled(FALSE);
+    setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
+}
+
+SbBool SoQtGeneralViewer::isSeekMode() const {
+    return SoQtViewer::isSeekMode();
+}
+
+SbBool SoQtGeneralViewer::processSoEvent(const SoEvent* event) {
+    if (processKey(event) || frame->processSoEvent(event) != 0) {
+        return TRUE;
+    }
+    return SoQtExaminerViewer::processSoEvent(event);
+}
+
+bool SoQtGeneralViewer::processKey(const SoEvent* event) {
+    if (!SoKeyboardEvent::isKeyPressEvent(event, SoKeyboardEvent::ANY)) {
+        return false;
+    }
+    switch (static_cast<const SoKeyboardEvent*>(event)->getKey()) {
+    case SoKeyboardEvent::SPACE:
+        frame->toggleDrawStyle();
+        return true;
+    case SoKeyboardEvent::P:
+        setCameraType(SoPerspectiveCamera::getClassTypeId());
+        return true;
+    case SoKeyboardEvent::O:
+        setCameraType(SoOrthographicCamera::getClassTypeId());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void SoQtGeneralViewer::actualRedraw() {
+    const SbVec2s size = getViewportRegion().getViewportSizePixels();
+    if (size != presentedSize) {
+        presentedSize = size;
+        presentEmptyFrame();
+    }
+    SoQtExaminerViewer::actualRedraw();
+}
+
+void SoQtGeneralViewer::presentEmptyFrame() {
+    const SbColor& background = getBackgroundColor();
+    glClearColor(background[0], background[1], background[2], 0);
+    glClear(GL_COLOR_BUFFER_BIT);
+    static_cast<QGLWidget*>(getGLWidget())->swapBuffers();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
+
+class SoQtGeneralViewerFrame;
+
+/**
+ * The examiner viewer of a frame: orthographic at first, without a popup menu, and drawing the same
+ * way while the camera moves as when it stands still.
+ *
+ * Scene events go first through three keys of the viewer's own (space: next draw style, P:
+ * perspective camera, O: orthographic camera), then to the frame, then to the examiner.
+ */
+class SoQtGeneralViewer : public SoQtExaminerViewer {
+public:
+    /**
+     * @param owner the frame that the viewer is shown in and reports to; it outlives the viewer
+     * @param name  the widget's name
+     * @param embed non-zero when the viewer is a child of the frame, zero for a window of its own
+     */
+    SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed);
+    ~SoQtGeneralViewer() override = default;
+    SoQtGeneralViewer(const SoQtGeneralViewer&) = delete;
+    SoQtGeneralViewer& operator=(const SoQtGeneralViewer&) = delete;
+
+    /** Whether the next click chooses a point to fly to. */
+    SbBool isSeekMode() const;
+
+protected:
+    SbBool processSoEvent(const SoEvent* event) override;
+    void actualRedraw() override;
+
+private:
+    /** Handles the viewer's own keys; returns whether the event was one of them. */
+    bool processKey(const SoEvent* event);
+
+    /**
+     * Software OpenGL learns of a new window size only when buffers are swapped: without this, the
+     * first frame after a change of size is drawn into buffers of the old size and never seen.
+     */
+    void presentEmptyFrame();
+
+    SoQtGeneralViewerFrame* frame;
+    SbVec2s presentedSize{0, 0};
+};
