@@ -3,6 +3,7 @@
 #include "app/SliderRow.h"
 #include "helix/Helix.h"
 
+#include <QLabel>
 #include <QSlider>
 #include <QSpinBox>
 

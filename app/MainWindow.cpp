@@ -10,7 +10,9 @@
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
 
+#include <Inventor/nodes/SoSeparator.h>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QMdiArea>

@@ -7,11 +7,11 @@
 
 int HelixFrame::helix_nb = 0;
 
-HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, float blue,
-                       int vertexIndex, bool closable, FrameOwner* owner)
+HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, float blue, int index,
+                       bool closable, FrameOwner* owner)
     : SoQtGeneralViewerFrame(closable, owner)
     , helix(u1, u2, u3, red, green, blue) {
-    initialize_helix(vertexIndex);
+    initialize_helix(index);
 }
 
 HelixFrame::~HelixFrame() {

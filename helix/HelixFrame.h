@@ -20,7 +20,7 @@ public:
     /**
      * @param u1,u2,u3         the vertex's coordinates in U space
      * @param red,green,blue   the vertex's colour, 0 to 1
-     * @param vertexIndex      the vertex's index on the hyperboloid's grid
+     * @param index            the vertex's index on the hyperboloid's grid
      * @param closable         whether the frame may be closed by itself
      * @param owner            told when the frame dies; may be null
      */
@@ -32,7 +32,7 @@ public:
     HelixFrame& operator=(const HelixFrame&) = delete;
 
     /** Gives the frame the next name and ties it to a vertex. */
-    void initialize_helix(int vertexIndex);
+    void initialize_helix(int index);
 
     SbName getName() const;
     static std::string Type() { return "HelixFrame"; }
@@ -52,7 +52,7 @@ public:
     void reDraw(bool line, bool tube, bool ribbon);
 
     /** Takes over the U coordinates, the index and the colour of another vertex, and draws. */
-    void refresh(float u1, float u2, float u3, int vertexIndex, float red, float green, float blue);
+    void refresh(float u1, float u2, float u3, int index, float red, float green, float blue);
 
     /** Shows a point of U space in the viewer's title, for example U = (0.5; 1; 0.25). */
     void showU(double u1, double u2, double u3);

@@ -75,9 +75,10 @@ const int HyperboloidFrame::RIGHT = 2;
 const int HyperboloidFrame::LEFT = 3;
 
 HyperboloidFrame::HyperboloidFrame(float K1, float K2, float K3, float K13, float K23, float U1,
-                                   float U2, float U3, int space, bool closable, FrameOwner* owner)
+                                   float U2, float U3, int whichSpace, bool closable,
+                                   FrameOwner* owner)
     : SoQtGeneralViewerFrame(closable, owner)
-    , Hyperboloid(K1, K2, K3, K13, K23, U1, U2, U3, space) {
+    , Hyperboloid(K1, K2, K3, K13, K23, U1, U2, U3, whichSpace) {
     type = Type();
 }
 

@@ -34,12 +34,12 @@ public:
 
     /**
      * @param K1,K2,K3,K13,K23,U1,U2,U3 the parameters, see Hyperboloid
-     * @param space      Hyperboloid::USPACE, XSPACE or MSPACE
+     * @param whichSpace Hyperboloid::USPACE, XSPACE or MSPACE
      * @param closable   whether the frame may be closed by itself
      * @param owner     the window that created the frame, or null
      */
     HyperboloidFrame(float K1, float K2, float K3, float K13, float K23, float U1, float U2,
-                     float U3, int space, bool closable, FrameOwner* owner);
+                     float U3, int whichSpace, bool closable, FrameOwner* owner);
 
     static std::string Type() { return "HyperboloidFrame"; }
 
@@ -48,7 +48,7 @@ public:
     void setBrother(HyperboloidFrame* u, HyperboloidFrame* x, HyperboloidFrame* m);
 
     /** The brother of a space; the U brother for any value that is no space. */
-    HyperboloidFrame* getBrother(int space) const;
+    HyperboloidFrame* getBrother(int whichSpace) const;
 
     // The tied helix: the one that picks and keys in this frame steer. Null when there is none.
     void SetPreviousHelix(HelixFrame* helix);

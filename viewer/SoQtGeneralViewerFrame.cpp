@@ -141,13 +141,10 @@ void SoQtGeneralViewerFrame::setTitle(const char* text) {
         const WindowTitleKeeper keeper(window());
         viewer->setTitle(text);
     }
+    lastViewerTitle = QString::fromLocal8Bit(text);
     if (mainWindow != nullptr) {
         mainWindow->viewerTitleChanged();
     }
-}
-
-QString SoQtGeneralViewerFrame::viewerTitle() const {
-    return viewer ? QString::fromLocal8Bit(viewer->getTitle()) : QString();
 }
 
 QSize SoQtGeneralViewerFrame::minimumSize() const {

@@ -86,8 +86,11 @@ public:
     /** Gives the viewer a title; the frame's own window title stays "Viewer " and its number. */
     void setTitle(const char* text);
 
-    /** The title last given to the viewer, empty before initialize(). */
-    QString viewerTitle() const;
+    /**
+     * The title last given to the viewer, empty before. SoQt itself answers with the title of the
+     * top-level window around the viewer.
+     */
+    QString viewerTitle() const { return lastViewerTitle; }
 
     void setClosableAlone(bool closable) { closableAlone = closable; }
 
@@ -132,4 +135,6 @@ private:
     void buildScene();
     void createViewer();
     void enableMultisampling();
+
+    QString lastViewerTitle;
 };

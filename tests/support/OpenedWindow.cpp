@@ -20,7 +20,9 @@ OpenedWindow::~OpenedWindow() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QMdiArea& OpenedWindow::area() const { return *mainWindow->findChild<QMdiArea*>(); }
+QMdiArea& OpenedWindow::area() const {
+    return *mainWindow->findChild<QMdiArea*>();
+}
 
 std::vector<SoQtGeneralViewerFrame*> OpenedWindow::frames() const {
     std::vector<SoQtGeneralViewerFrame*> found;

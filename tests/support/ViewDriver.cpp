@@ -8,18 +8,24 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTest>
+#include <algorithm>
 
 namespace {
 
-/** Share of the pixels that a drawn scene covers at the very least. */
-constexpr double smallestCover = 0.01;
+/** What a drawn scene covers at the very least, in pixels: a helix may be a thin line. */
+constexpr int smallestCover = 30;
+
+/** The part of a view, from its upper left, that is free of the examiner's axis cross. */
+constexpr double shareWithoutCross = 0.7;
 
 } // namespace
 
 ViewDriver::ViewDriver(SoQtGeneralViewerFrame& drivenFrame)
     : frame(&drivenFrame) {}
 
-QWidget& ViewDriver::widget() const { return *frame->getViewer()->getGLWidget(); }
+QWidget& ViewDriver::widget() const {
+    return *frame->getViewer()->getGLWidget();
+}
 
 void ViewDriver::click(Qt::MouseButton button, QPoint position) const {
     QTest::mouseMove(&widget(), position);
@@ -37,9 +43,13 @@ void ViewDriver::drag(Qt::MouseButton button, QPoint from, QPoint to) const {
     QTest::mouseRelease(&widget(), button, Qt::NoModifier, to);
 }
 
-void ViewDriver::key(Qt::Key key) const { QTest::keyClick(&widget(), key); }
+void ViewDriver::key(Qt::Key key) const {
+    QTest::keyClick(&widget(), key);
+}
 
-void ViewDriver::setPickingMode(bool picking) const { frame->getViewer()->setViewing(!picking); }
+void ViewDriver::setPickingMode(bool picking) const {
+    frame->getViewer()->setViewing(!picking);
+}
 
 QPoint ViewDriver::positionOf(const SbVec3f& point) const {
     const SbViewportRegion& region = frame->getViewer()->getViewportRegion();
@@ -63,11 +73,13 @@ bool ViewDriver::isDrawn() const {
     const QImage image = grab();
     const SbColor& color = frame->getViewer()->getBackgroundColor();
     const QRgb background = QColor::fromRgbF(color[0], color[1], color[2]).rgb();
+    const int width = static_cast<int>(shareWithoutCross * image.width());
+    const int height = static_cast<int>(shareWithoutCross * image.height());
     int covered = 0;
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < height; ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         covered += static_cast<int>(std::count_if(
-            line, line + image.width(), [&](QRgb pixel) { return pixel != background; }));
+            line, line + width, [&](QRgb pixel) { return pixel != background; }));
     }
-    return covered > smallestCover * image.width() * image.height();
+    return covered > smallestCover;
 }

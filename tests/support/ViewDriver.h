@@ -30,7 +30,7 @@ public:
     /** What the screen shows of the view. */
     QImage grab() const;
 
-    /** Whether the view shows a scene: a good number of its pixels differ from the background. */
+    /** Whether the view shows a scene, rather than its background only. */
     bool isDrawn() const;
 
 private:

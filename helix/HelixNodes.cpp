@@ -1,0 +1,80 @@
+#include "helix/HelixNodes.h"
+
+#include "helix/Helix.h"
+#include "scene/SceneNodes.h"
+
+#include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoLineSet.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoMaterialBinding.h>
+#include <Inventor/nodes/SoQuadMesh.h>
+#include <Inventor/nodes/SoSeparator.h>
+
+namespace {
+
+using Color = std::array<float, 3>;
+
+const float (*valuesOf(const Helix::Table& table))[3] {
+    return reinterpret_cast<const float(*)[3]>(table.data());
+}
+
+int countOf(const Helix::Table& table) {
+    return static_cast<int>(table.size());
+}
+
+void addVertexColors(SoSeparator& parent, const Helix::Table& colors) {
+    auto* material = new SoMaterial;
+    SceneNodes::setColors(*material, countOf(colors), valuesOf(colors));
+    parent.addChild(material);
+    auto* binding = new SoMaterialBinding;
+    binding->value = SoMaterialBinding::PER_VERTEX;
+    parent.addChild(binding);
+}
+
+void addCoordinates(SoSeparator& parent, const Helix::Table& points) {
+    parent.addChild(SceneNodes::createCoordinates(countOf(points), valuesOf(points)));
+}
+
+/** A mesh in one colour, or coloured by vertex when the helix has no colour of its own. */
+SoSeparator* createMesh(const char* name, const Helix& helix, const Color& color,
+                        const Helix::Table& colors, const Helix::Table& points,
+                        unsigned int verticesPerRow) {
+    SoSeparator* mesh = SceneNodes::createSeparator(name);
+    if (helix.getHelixColor() == Color{0, 0, 0}) {
+        addVertexColors(*mesh, colors);
+    } else {
+        mesh->addChild(SceneNodes::createMaterial(color[0], color[1], color[2]));
+    }
+    addCoordinates(*mesh, points);
+    const unsigned int verticesPerColumn = helix.getNbLineVertices();
+    // The scene library complains about a mesh without a single quadrilateral.
+    if (verticesPerRow > 1 && verticesPerColumn > 1) {
+        mesh->addChild(SceneNodes::createQuadMesh(static_cast<int>(verticesPerRow),
+                                                  static_cast<int>(verticesPerColumn)));
+    }
+    return mesh;
+}
+
+} // namespace
+
+SoSeparator* HelixNodes::createLine(const Helix& helix) {
+    SoSeparator* line = SceneNodes::createSeparator("Helix_Line");
+    addVertexColors(*line, helix.getLineColors());
+    addCoordinates(*line, helix.getLineVertices());
+    auto* polyline = new SoLineSet;
+    polyline->numVertices = static_cast<int>(helix.getNbLineVertices());
+    line->addChild(polyline);
+    return line;
+}
+
+SoSeparator* HelixNodes::createTube(const Helix& helix) {
+    return createMesh("Helix_Tube", helix, helix.getHelixColor(), helix.getTubeColors(),
+                      helix.getTubeVertices(), helix.getPrecisionTube());
+}
+
+SoSeparator* HelixNodes::createRibbon(const Helix& helix) {
+    const auto [red, green, blue] = helix.getHelixColor();
+    constexpr unsigned int edges = 2;
+    return createMesh("Helix_Ribbon", helix, {1 - red, 1 - green, 1 - blue},
+                      helix.getRibbonColors(), helix.getRibbonVertices(), edges);
+}

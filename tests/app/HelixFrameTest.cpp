@@ -1,0 +1,167 @@
+#include "tests/support/OpenedWindow.h"
+#include "tests/support/SceneReader.h"
+
+#include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+/** A helix frame without a main window, initialized. */
+class LoneHelix {
+public:
+    LoneHelix() { frame.initialize(); }
+    HelixFrame frame{1, 0.5F, 0.25F, 1, 0, 0, 17, true, nullptr};
+
+    SoSeparator* tube() const {
+        return SceneReader::childNamed(*frame.getSceneRoot(), "Helix_Tube");
+    }
+    SoSeparator* ribbon() const {
+        return SceneReader::childNamed(*frame.getSceneRoot(), "Helix_Ribbon");
+    }
+    static SbVec3f firstPoint(const SoSeparator& part) {
+        for (int i = 0; i < part.getNumChildren(); ++i) {
+            if (auto* coordinates = dynamic_cast<SoCoordinate3*>(part.getChild(i))) {
+                return coordinates->point[0];
+            }
+        }
+        return {};
+    }
+    static int pointCount(const SoSeparator& part) {
+        for (int i = 0; i < part.getNumChildren(); ++i) {
+            if (auto* coordinates = dynamic_cast<SoCoordinate3*>(part.getChild(i))) {
+                return coordinates->point.getNum();
+            }
+        }
+        return -1;
+    }
+};
+
+} // namespace
+
+TEST(HelixFrameTest, EachFrameGetsTheNextNameAndNoNameIsUsedTwice) {
+    const int before = HelixFrame::helix_nb;
+    const auto nameOf = [](int number) {
+        return SbName(("Helix_" + std::to_string(number)).c_str());
+    };
+    {
+        const HelixFrame first(1, 0, 0, 1, 0, 0, 0, true, nullptr);
+        EXPECT_EQ(first.getName(), nameOf(before + 1));
+    }
+    const HelixFrame second(1, 0, 0, 1, 0, 0, 0, true, nullptr);
+    EXPECT_EQ(second.getName(), nameOf(before + 2));
+    EXPECT_EQ(HelixFrame::helix_nb, before + 2);
+}
+
+TEST(HelixFrameTest, KnowsItsTypeItsVertexAndItsParameters) {
+    LoneHelix lone;
+    EXPECT_EQ(lone.frame.GetType(), "HelixFrame");
+    EXPECT_EQ(HelixFrame::Type(), "HelixFrame");
+    EXPECT_EQ(lone.frame.getIndex(), 17);
+    lone.frame.SetVertexInd(3);
+    EXPECT_EQ(lone.frame.getIndex(), 3);
+    EXPECT_EQ(lone.frame.getHelix().getTorsion(), 0.25F);
+}
+
+TEST(HelixFrameTest, ShowsOneTubeAndOneRibbonBelowTheUpperStructure) {
+    LoneHelix lone;
+    EXPECT_EQ(SceneReader::childNames(*lone.frame.getSceneRoot()),
+              (std::vector<std::string>{"Environment", "Separator", "Separator", "Separator",
+                                        "Helix_Tube", "Helix_Ribbon"}));
+    lone.frame.Draw();
+    lone.frame.Draw();
+    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), "Helix_Tube"), 1);
+    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), "Helix_Ribbon"), 1);
+    EXPECT_EQ(lone.frame.getSceneRoot()->getNumChildren(), 6);
+}
+
+TEST(HelixFrameTest, BaseRedrawDoesNothing) {
+    LoneHelix lone;
+    const SoSeparator* tube = lone.tube();
+    lone.frame.reDraw();
+    EXPECT_EQ(lone.tube(), tube);
+}
+
+TEST(HelixFrameTest, RefreshTakesOverThePointAndShowsItsCoordinates) {
+    LoneHelix lone;
+    lone.frame.refresh(0.5F, 1, 0.25F, 42, 0, 1, 0);
+    EXPECT_EQ(lone.frame.getIndex(), 42);
+    EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.5; 1; 0.25)");
+    EXPECT_EQ(lone.frame.getHelix().getTorsion(), 0.25F);
+    const Helix expected(0.5F, 1, 0.25F, 0, 1, 0);
+    EXPECT_EQ(lone.frame.getHelix().getRadius(), expected.getRadius());
+    for (int c = 0; c < 3; ++c) {
+        EXPECT_EQ(lone.frame.getHelix().getLineVertex(100, c), expected.getLineVertex(100, c));
+    }
+    EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.tube(), 0)->diffuseColor[0], SbColor(0, 1, 0));
+    EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.ribbon(), 0)->diffuseColor[0], SbColor(1, 0, 1));
+}
+
+TEST(HelixFrameTest, TitleHasSixSignificantDigits) {
+    LoneHelix lone;
+    lone.frame.showU(1.0 / 3, -1234567.0, 1e-10);
+    EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.333333; -1.23457e+06; 1e-10)");
+}
+
+TEST(HelixFrameTest, StraightHelixIsStillDrawnAndTitled) {
+    LoneHelix lone;
+    lone.frame.refresh(0, 0, 2, 5, 1, 1, 0);
+    EXPECT_EQ(lone.frame.viewerTitle(), "U = (0; 0; 2)");
+    EXPECT_EQ(lone.frame.getHelix().getRadius(), 0);
+    EXPECT_NE(lone.tube(), nullptr);
+    EXPECT_NE(lone.ribbon(), nullptr);
+}
+
+TEST(HelixFrameTest, SettersWithoutRedrawLeaveTheSceneAlone) {
+    LoneHelix lone;
+    const SoSeparator* tube = lone.tube();
+    lone.frame.set_tube_radius(0.02, false);
+    lone.frame.set_ribbon_range(0.1, false);
+    lone.frame.set_precision_tube(8, false);
+    lone.frame.set_precision_line(20, false);
+    lone.frame.set_nturns(3, false);
+    EXPECT_EQ(lone.tube(), tube);
+    const Helix& helix = lone.frame.getHelix();
+    EXPECT_EQ(helix.getTubeR(), 0.02F);
+    EXPECT_EQ(helix.getRibRange(), 0.1F);
+    EXPECT_EQ(helix.getPrecisionTube(), 8U);
+    EXPECT_EQ(helix.getPrecisionLine(), 20U);
+    EXPECT_EQ(helix.getNTurns(), 3.0F);
+    EXPECT_EQ(helix.getNbLineVertices(), 60U);
+}
+
+TEST(HelixFrameTest, TubeRadiusResamplesOnlyTheTubeAndReplacesBothParts) {
+    LoneHelix lone;
+    const SbVec3f tubeBefore = LoneHelix::firstPoint(*lone.tube());
+    const SbVec3f ribbonBefore = LoneHelix::firstPoint(*lone.ribbon());
+    const SoSeparator* ribbonNode = lone.ribbon();
+    lone.frame.set_ribbon_range(0.2, false);
+    lone.frame.set_tube_radius(0.02, true);
+    EXPECT_NE(LoneHelix::firstPoint(*lone.tube()), tubeBefore);
+    EXPECT_EQ(LoneHelix::firstPoint(*lone.ribbon()), ribbonBefore);
+    EXPECT_NE(lone.ribbon(), ribbonNode);
+    EXPECT_EQ(lone.frame.getSceneRoot()->getNumChildren(), 6);
+}
+
+TEST(HelixFrameTest, SettersWithRedrawGiveThePartsTheirNewSizes) {
+    LoneHelix lone;
+    lone.frame.set_precision_tube(8, true);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 8 * 250);
+    lone.frame.set_precision_line(20, true);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 8 * 100);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.ribbon()), 2 * 100);
+    lone.frame.set_nturns(3, true);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 8 * 60);
+    lone.frame.set_ribbon_range(0.2, true);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.ribbon()), 2 * 60);
+}
+
+TEST(HelixFrameTest, NoTurnsDrawNothingAndTurnsComeBack) {
+    LoneHelix lone;
+    lone.frame.show();
+    lone.frame.set_nturns(0, true);
+    EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 0);
+    EXPECT_FALSE(QTest::qWaitFor([&] { return ViewDriver(lone.frame).isDrawn(); }, 300));
+    lone.frame.set_nturns(5, true);
+    EXPECT_TRUE(waitUntil([&] { return ViewDriver(lone.frame).isDrawn(); }));
+}

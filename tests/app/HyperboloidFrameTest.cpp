@@ -1,0 +1,273 @@
+#include "tests/support/OpenedWindow.h"
+#include "tests/support/SceneReader.h"
+
+#include <Inventor/nodes/SoCone.h>
+#include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoQuadMesh.h>
+#include <Inventor/nodes/SoSphere.h>
+#include <cmath>
+#include <gtest/gtest.h>
+
+using Names = std::vector<std::string>;
+
+namespace {
+
+SoSeparator& phongBranch(const HyperboloidFrame& frame) {
+    return SceneReader::phongBranch(*frame.getSceneRoot());
+}
+
+SoSeparator& drawStyleBranch(const HyperboloidFrame& frame) {
+    return SceneReader::drawStyleBranch(*frame.getSceneRoot());
+}
+
+std::string nameOf(const HelixFrame& helix) {
+    return helix.getName().getString();
+}
+
+SbVec3f spherePosition(const HyperboloidFrame& frame, const HelixFrame& helix) {
+    const SoSeparator* sphere = SceneReader::childNamed(phongBranch(frame), helix.getName());
+    return SceneReader::child<SoTransform>(*sphere, 1)->translation.getValue();
+}
+
+SbVec3f vertex(HyperboloidFrame& frame, int index) {
+    return {frame.getVertex(index, 0), frame.getVertex(index, 1), frame.getVertex(index, 2)};
+}
+
+SbColor color(HyperboloidFrame& frame, int index) {
+    return {frame.getColor(index, 0), frame.getColor(index, 1), frame.getColor(index, 2)};
+}
+
+/** Every frame's sphere of the helix stands at the helix's vertex, in the frame's own space. */
+void expectSpheresAtVertex(const OpenedWindow& opened, const HelixFrame& helix, int index) {
+    EXPECT_EQ(helix.getIndex(), index);
+    for (int space = 0; space < 3; ++space) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        EXPECT_EQ(SceneReader::countNamed(phongBranch(frame), helix.getName()), 1);
+        EXPECT_EQ(spherePosition(frame, helix), vertex(frame, index));
+    }
+}
+
+} // namespace
+
+TEST(HyperboloidFrameTest, KnowsItsTypeItsSpaceAndItsBrothers) {
+    const OpenedWindow opened;
+    for (int space = 0; space < 3; ++space) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        EXPECT_EQ(frame.GetType(), "HyperboloidFrame");
+        EXPECT_EQ(frame.WichSpace(), space);
+        for (int brother = 0; brother < 3; ++brother) {
+            EXPECT_EQ(frame.getBrother(brother), &opened.hyperboloid(brother));
+        }
+        EXPECT_EQ(frame.getBrother(7), &opened.hyperboloid(Hyperboloid::USPACE));
+        EXPECT_EQ(frame.getBrother(-1), &opened.hyperboloid(Hyperboloid::USPACE));
+    }
+    EXPECT_EQ(HyperboloidFrame::Type(), "HyperboloidFrame");
+}
+
+TEST(HyperboloidFrameTest, DirectionsHaveTheirNumbers) {
+    EXPECT_EQ(HyperboloidFrame::UP, 0);
+    EXPECT_EQ(HyperboloidFrame::DOWN, 1);
+    EXPECT_EQ(HyperboloidFrame::RIGHT, 2);
+    EXPECT_EQ(HyperboloidFrame::LEFT, 3);
+    ::toggleDrawStyle();
+}
+
+TEST(HyperboloidFrameTest, SceneHoldsSurfaceDecorationsAndSphereInOrder) {
+    const OpenedWindow opened;
+    const std::string sphere = nameOf(opened.firstHelix());
+    for (int space = 0; space < 3; ++space) {
+        const HyperboloidFrame& frame = opened.hyperboloid(space);
+        EXPECT_EQ(SceneReader::childNames(phongBranch(frame)),
+                  (Names{"ShaderProgram", "U3Axis", "Center", "uHat", "U3ConstAxis", sphere}))
+            << space;
+        EXPECT_EQ(SceneReader::childNames(drawStyleBranch(frame)),
+                  (Names{"DrawStyle", "Switch", "Hyperboloid"}));
+    }
+}
+
+TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAndAxis) {
+    const OpenedWindow opened;
+    HyperboloidFrame& frame = opened.hyperboloid(Hyperboloid::USPACE);
+    frame.DrawAxis(2, 0.1);
+    const std::string sphere = nameOf(opened.firstHelix());
+    const SoNode* surface = SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid");
+    frame.reDraw(false, false);
+    Names names = SceneReader::childNames(phongBranch(frame));
+    names.erase(names.begin());
+    EXPECT_EQ(names, (Names{sphere, "Axis", "U3Axis", "Center", "uHat", "U3ConstAxis"}));
+    EXPECT_EQ(SceneReader::countNamed(drawStyleBranch(frame), "Hyperboloid"), 1);
+    EXPECT_NE(SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid"), surface);
+}
+
+TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    for (const int space : {Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
+        for (int k = 0; k < static_cast<int>(u.getNumVertices()); ++k) {
+            ASSERT_EQ(color(opened.hyperboloid(space), k), color(u, k));
+        }
+    }
+}
+
+TEST(HyperboloidFrameTest, ChangingColoursOfULeavesThemAsTheyAre) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const SbColor before = color(u, 100);
+    u.changeColors();
+    EXPECT_EQ(color(u, 100), before);
+}
+
+TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const SbColor before = color(u, 100);
+    u.setSaturation(0, false);
+    u.setLightness(25, false);
+    EXPECT_EQ(u.getSaturation(), 0);
+    EXPECT_EQ(u.getLightness(), 0.25);
+    EXPECT_EQ(color(u, 100), before);
+    u.setLightness(25, true);
+    EXPECT_EQ(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
+    u.setSaturation(80, true);
+    EXPECT_NE(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
+}
+
+TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid");
+    u.setTransparency(50, false);
+    EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->transparency[0], 0.5F);
+    EXPECT_EQ(u.getTransparency(), 0.5);
+    EXPECT_EQ(SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid"), surface);
+    u.setTransparency(30, true);
+    EXPECT_NE(SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid"), surface);
+}
+
+TEST(HyperboloidFrameTest, SphereHasTheVertexsColourAndPlaceAndTheSharedShape) {
+    const OpenedWindow opened;
+    HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
+    m.addNewSphere("Helix_test", 321);
+    const SoSeparator* sphere = SceneReader::childNamed(phongBranch(m), "Helix_test");
+    ASSERT_NE(sphere, nullptr);
+    ASSERT_EQ(sphere->getNumChildren(), 3);
+    EXPECT_EQ(SceneReader::child<SoMaterial>(*sphere, 0)->diffuseColor[0], color(m, 321));
+    EXPECT_EQ(SceneReader::child<SoTransform>(*sphere, 1)->translation.getValue(), vertex(m, 321));
+    const auto* shape = SceneReader::child<SoGroup>(*sphere, 2);
+    ASSERT_NE(shape, nullptr);
+    EXPECT_EQ(SceneReader::child<SoSphere>(*shape, 0)->radius.getValue(), 0.3F);
+    const SoSeparator* center = SceneReader::childNamed(phongBranch(m), "Center");
+    EXPECT_EQ(center->getChild(2), shape);
+    m.killSphere("Helix_test");
+    EXPECT_EQ(SceneReader::childNamed(phongBranch(m), "Helix_test"), nullptr);
+}
+
+TEST(HyperboloidFrameTest, ChoosingAVertexTiesTheHelixToAllBrothers) {
+    const OpenedWindow opened;
+    HelixFrame& helix = opened.firstHelix();
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    opened.hyperboloid(Hyperboloid::USPACE).PrevHelixDead();
+    x.SetPreviousHelix(&helix);
+    x.refresh_hypos(500);
+    for (int space = 0; space < 3; ++space) {
+        EXPECT_EQ(opened.hyperboloid(space).GetPreviousHelix(), &helix);
+        EXPECT_EQ(spherePosition(opened.hyperboloid(space), helix),
+                  vertex(opened.hyperboloid(space), 500));
+    }
+}
+
+TEST(HyperboloidFrameTest, RefreshedHelixGetsTheUCoordinatesFromEveryFrame) {
+    const OpenedWindow opened;
+    HelixFrame& helix = opened.firstHelix();
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    for (int space = 0; space < 3; ++space) {
+        const int index = 700 + space;
+        opened.hyperboloid(space).SetPreviousHelix(&helix);
+        opened.hyperboloid(space).refresh_helix(index);
+        EXPECT_EQ(helix.getIndex(), index);
+        EXPECT_EQ(helix.getHelix().getTorsion(), u.getVertex(index, 2));
+    }
+}
+
+TEST(HyperboloidFrameTest, RowsClampAndStillRefresh) {
+    const OpenedWindow opened;
+    HelixFrame& helix = opened.firstHelix();
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const int lastRow = static_cast<int>(u.getNumRow()) - 1;
+    u.SetPreviousHelix(&helix);
+    u.refresh_hypos(64);
+    u.refresh_helix(64);
+    helix.setTitle("to be replaced");
+    u.moveSphere(HyperboloidFrame::UP);
+    expectSpheresAtVertex(opened, helix, 64);
+    EXPECT_TRUE(helix.viewerTitle().startsWith("U = ("));
+    u.moveSphere(HyperboloidFrame::DOWN);
+    expectSpheresAtVertex(opened, helix, 65);
+    u.moveSphere(HyperboloidFrame::UP);
+    expectSpheresAtVertex(opened, helix, 64);
+    u.refresh_helix(64 + lastRow);
+    u.moveSphere(HyperboloidFrame::DOWN);
+    expectSpheresAtVertex(opened, helix, 64 + lastRow);
+}
+
+TEST(HyperboloidFrameTest, ColumnsWrapWithoutEverReachingTheSeam) {
+    const OpenedWindow opened;
+    HelixFrame& helix = opened.firstHelix();
+    HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
+    const int rows = static_cast<int>(m.getNumRow());
+    const int seam = static_cast<int>(m.getNumCol()) - 1;
+    m.SetPreviousHelix(&helix);
+    m.refresh_helix(10);
+    m.moveSphere(HyperboloidFrame::RIGHT);
+    expectSpheresAtVertex(opened, helix, 10 + (seam - 1) * rows);
+    m.moveSphere(HyperboloidFrame::LEFT);
+    expectSpheresAtVertex(opened, helix, 10);
+    m.moveSphere(HyperboloidFrame::LEFT);
+    expectSpheresAtVertex(opened, helix, 10 + rows);
+    m.moveSphere(HyperboloidFrame::RIGHT);
+    expectSpheresAtVertex(opened, helix, 10);
+    m.refresh_helix(10 + seam * rows);
+    m.moveSphere(HyperboloidFrame::LEFT);
+    expectSpheresAtVertex(opened, helix, 10 + rows);
+}
+
+TEST(HyperboloidFrameTest, StepWithoutATiedHelixChangesNothing) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    u.PrevHelixDead();
+    EXPECT_EQ(u.GetPreviousHelix(), nullptr);
+    u.moveSphere(HyperboloidFrame::DOWN);
+    expectSpheresAtVertex(opened, opened.firstHelix(), 0);
+}
+
+TEST(HyperboloidFrameTest, AxisGlyphIsAClosedTubeWithATip) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    u.DrawAxis(2, 0.5);
+    const SoSeparator* axis = SceneReader::childNamed(phongBranch(u), "Axis");
+    ASSERT_NE(axis, nullptr);
+    ASSERT_EQ(axis->getNumChildren(), 5);
+    const auto* material = SceneReader::child<SoMaterial>(*axis, 0);
+    for (const SoMFColor* field :
+         {&material->ambientColor, &material->diffuseColor, &material->specularColor}) {
+        EXPECT_EQ((*field)[0], SbColor(0, 0, 1));
+    }
+    const auto& points = SceneReader::child<SoCoordinate3>(*axis, 1)->point;
+    ASSERT_EQ(points.getNum(), 60);
+    for (int j = 0; j < 30; ++j) {
+        const double theta = j * 2 * M_PI / 29;
+        for (int ring = 0; ring < 2; ++ring) {
+            const SbVec3f expected(static_cast<float>(0.5 * std::cos(theta)),
+                                   static_cast<float>(0.5 * std::sin(theta)), ring == 0 ? 2 : -2);
+            EXPECT_TRUE(points[30 * ring + j].equals(expected, 1e-12F)) << ring << " " << j;
+        }
+    }
+    const auto* mesh = SceneReader::child<SoQuadMesh>(*axis, 2);
+    EXPECT_EQ(mesh->verticesPerRow.getValue(), 30);
+    EXPECT_EQ(mesh->verticesPerColumn.getValue(), 2);
+    const auto* tip = SceneReader::child<SoTransform>(*axis, 3);
+    EXPECT_EQ(tip->translation.getValue(), SbVec3f(0, 0, 2));
+    EXPECT_EQ(tip->scaleFactor.getValue(), SbVec3f(0.15F, 0.15F, 0.15F));
+    EXPECT_TRUE(tip->rotation.getValue().equals(SbRotation(SbVec3f(1, 0, 0), 1.0471976F), 1e-6F));
+    EXPECT_NE(SceneReader::child<SoCone>(*axis, 4), nullptr);
+}

@@ -1,0 +1,76 @@
+#include "tests/viewer/ShownFrame.h"
+
+#include <Inventor/nodes/SoOrthographicCamera.h>
+#include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <gtest/gtest.h>
+
+TEST(ViewerEvents, SpaceChangesTheDrawStyleAndNeverReachesTheFrame) {
+    const FrameOnScreen shown;
+    shown.driver().key(Qt::Key_Space);
+    EXPECT_EQ(shown.get().shading().whichChild.getValue(), 1);
+    shown.driver().key(Qt::Key_Space);
+    EXPECT_EQ(shown.get().style().style.getValue(), SoDrawStyle::LINES);
+    shown.driver().key(Qt::Key_Space);
+    EXPECT_EQ(shown.get().shading().whichChild.getValue(), 0);
+    // The releases of the key are the frame's to see; the presses are not.
+    EXPECT_EQ(shown.get().keys.size(), 3U);
+}
+
+TEST(ViewerEvents, PAndOChangeTheCameraAndTheirPressesNeverReachTheFrame) {
+    const FrameOnScreen shown;
+    shown.driver().key(Qt::Key_P);
+    EXPECT_EQ(shown.get().getViewer()->getCameraType(), SoPerspectiveCamera::getClassTypeId());
+    shown.driver().key(Qt::Key_O);
+    EXPECT_EQ(shown.get().getViewer()->getCameraType(), SoOrthographicCamera::getClassTypeId());
+    EXPECT_EQ(shown.get().keys,
+              (std::vector<SoKeyboardEvent::Key>{SoKeyboardEvent::P, SoKeyboardEvent::O}));
+}
+
+TEST(ViewerEvents, ViewIsDrawnInEveryStyleAndUnderBothCameras) {
+    const FrameOnScreen shown;
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Space, Qt::Key_P, Qt::Key_Space, Qt::Key_O}) {
+        shown.driver().key(key);
+        EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    }
+}
+
+TEST(ViewerEvents, OtherKeysReachTheFramePressedAndReleased) {
+    const FrameOnScreen shown;
+    shown.driver().key(Qt::Key_W);
+    shown.driver().key(Qt::Key_Up);
+    EXPECT_EQ(shown.get().keys, (std::vector<SoKeyboardEvent::Key>{
+                                    SoKeyboardEvent::W, SoKeyboardEvent::W,
+                                    SoKeyboardEvent::UP_ARROW, SoKeyboardEvent::UP_ARROW}));
+}
+
+TEST(ViewerEvents, WhatTheFrameConsumesNeverReachesTheExaminer) {
+    const FrameOnScreen shown;
+    shown.get().consumes = true;
+    shown.driver().key(Qt::Key_S);
+    EXPECT_FALSE(shown.get().getViewer()->isSeekMode());
+    shown.get().consumes = false;
+    shown.driver().key(Qt::Key_S);
+    EXPECT_TRUE(shown.get().getViewer()->isSeekMode());
+}
+
+TEST(ViewerEvents, DragMovesTheCameraUnlessTheFrameConsumesIt) {
+    const FrameOnScreen shown;
+    const auto orientation = [&] {
+        return shown.get().getViewer()->getCamera()->orientation.getValue();
+    };
+    const SbRotation before = orientation();
+    shown.get().consumes = true;
+    shown.driver().drag(Qt::LeftButton, QPoint(100, 100), QPoint(180, 140));
+    EXPECT_EQ(orientation(), before);
+    EXPECT_GE(shown.get().mouseButtons, 2);
+    shown.get().consumes = false;
+    shown.driver().drag(Qt::LeftButton, QPoint(100, 100), QPoint(180, 140));
+    EXPECT_NE(orientation(), before);
+}
+
+TEST(ViewerEvents, RightButtonOpensNoPopupMenu) {
+    const FrameOnScreen shown;
+    shown.driver().click(Qt::RightButton, QPoint(100, 100));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(shown.get().mouseButtons, 2);
+}
