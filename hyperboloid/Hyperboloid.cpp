@@ -1,0 +1,244 @@
+#include "hyperboloid/Hyperboloid.h"
+
+#include "hyperboloid/HyperboloidDecorations.h"
+#include "hyperboloid/HyperboloidEnergy.h"
+#include "hyperboloid/HyperboloidSurface.h"
+
+#include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoMaterialBinding.h>
+#include <Inventor/nodes/SoQuadMesh.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoSphere.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+
+namespace {
+
+constexpr int initialPrecision = 64;
+constexpr double initialPointRadius = 0.3;
+
+/** A table of 3 floats per entry as the scene nodes take it. */
+const float (*asTriples(const std::vector<float>& table))[3] {
+    return reinterpret_cast<const float(*)[3]>(table.data());
+}
+
+} // namespace
+
+Hyperboloid::Hyperboloid(float K1, float K2, float K3, float K13, float K23, float U1, float U2,
+                         float U3, int spaceIndex)
+    : space(spaceIndex)
+    , lambda(3)
+    , shift(3)
+    , U(3)
+    , material(new SoMaterial)
+    , sphereGroup(new SoGroup) {
+    set_parameters(K1, K2, K3, K13, K23, U1, U2, U3, initialPrecision, initialPrecision,
+                   initialPointRadius, u3const_range, u3axis_range, u3const_radius, u3axis_radius);
+    init_tables();
+    generateHyperboloidPoints(true, true);
+}
+
+Hyperboloid::~Hyperboloid() = default;
+
+void Hyperboloid::set_parameters(double K1, double K2, double K3, double K13, double K23, double U1,
+                                 double U2, double U3, int columns, int rows, double pointRadius,
+                                 double constRange, double axisRange, double constRadius,
+                                 double axisRadius) {
+    set_k_uHat(K1, K2, K3, K13, K23, U1, U2, U3);
+    set_PNAS_var();
+    numCol = static_cast<unsigned int>(std::max(columns, 0));
+    numRow = static_cast<unsigned int>(std::max(rows, 0));
+    SpR = pointRadius;
+    createMySphere(static_cast<float>(SpR));
+    u3const_range = constRange;
+    u3axis_range = axisRange;
+    u3const_radius = constRadius;
+    u3axis_radius = axisRadius;
+    rotationMatrix = get_rotationMatrix(b, d);
+    lambda = get_lambda_set_coeff(a, b, c, d);
+    shift = get_shift(a, b, c, d);
+    semiAxis = HyperboloidCoefficients::semiAxes(lambda);
+}
+
+void Hyperboloid::set_k_uHat(double K1, double K2, double K3, double K13, double K23, double U1,
+                             double U2, double U3) {
+    K = {static_cast<float>(K1), static_cast<float>(K2), static_cast<float>(K3),
+         static_cast<float>(K13), static_cast<float>(K23)};
+    U = Vecteur(U1, U2, U3);
+    KMatrix = HyperboloidCoefficients::symmetricMatrix(K1, K2, K3, K13, K23);
+}
+
+void Hyperboloid::set_PNAS_var() {
+    const HyperboloidCoefficients::Pnas pnas = HyperboloidCoefficients::pnas(K, U);
+    a = pnas.a;
+    b = pnas.b;
+    c = pnas.c;
+    d = pnas.d;
+}
+
+Vecteur Hyperboloid::get_lambda_set_coeff(float pnasA, float pnasB, float pnasC, float pnasD) {
+    const auto coefficients = HyperboloidCoefficients::lambda({pnasA, pnasB, pnasC, pnasD});
+    if (!coefficients) {
+        // The sum tested is bc + ad; the text keeps its other order.
+        std::cerr << "Error : bd=0 or ac+bd=0" << std::endl;
+        return {1.0, 1.0, 1.0};
+    }
+    swapAxes = coefficients->swapAxes;
+    return coefficients->values;
+}
+
+Vecteur Hyperboloid::get_shift(float pnasA, float pnasB, float pnasC, float pnasD) {
+    const auto computed = HyperboloidCoefficients::shift({pnasA, pnasB, pnasC, pnasD});
+    if (!computed) {
+        std::cerr << "Error :  bd=0" << std::endl;
+        return {0.0, 0.0, 0.0};
+    }
+    return *computed;
+}
+
+Matrice Hyperboloid::get_rotationMatrix(float p, float q) {
+    return HyperboloidCoefficients::rotation(p, q);
+}
+
+void Hyperboloid::createMySphere(float radius) {
+    sphereGroup->removeAllChildren();
+    auto* sphere = new SoSphere;
+    sphere->radius = radius;
+    sphereGroup->addChild(sphere);
+}
+
+void Hyperboloid::init_tables() {
+    const std::size_t vertexCount = static_cast<std::size_t>(numCol) * numRow;
+    vertices.assign(3 * vertexCount, 0.0F);
+    colors.assign(3 * vertexCount, 0.0F);
+    energies.assign(vertexCount, 0.0F);
+}
+
+void Hyperboloid::generateHyperboloidPoints(bool points, bool colours) {
+    if (points) {
+        HyperboloidSurface::generate({numCol, numRow, tRange, semiAxis, swapAxes, space, spaces()},
+                                     vertices);
+        if (space == USPACE) {
+            HyperboloidEnergy::computeEnergies(vertices.data(), verticesInTables(),
+                                               toTripleMatrix(KMatrix), toTriple(U),
+                                               energies.data());
+            normalize_energy();
+        }
+    }
+    if (colours && space == USPACE) {
+        HyperboloidEnergy::Palette(saturation, lightness)
+            .colorsOf(energies.data(), verticesInTables(), colors.data());
+    }
+}
+
+void Hyperboloid::computePositionForParams(float t, float theta, float (&p)[3]) {
+    const float r = std::sqrt(t * t + 1.0F);
+    p[0] = semiAxis[0] * r * std::cos(theta);
+    p[1] = semiAxis[1] * r * std::sin(theta);
+    p[2] = -semiAxis[2] * t;
+}
+
+double Hyperboloid::compute_energy(const float (&u)[3]) {
+    return HyperboloidEnergy::energyAt(u, toTripleMatrix(KMatrix), toTriple(U));
+}
+
+void Hyperboloid::normalize_energy() {
+    HyperboloidEnergy::normalize(energies.data(), verticesInTables());
+}
+
+void Hyperboloid::computeColorForPoint(float e, float (&rgb)[3]) {
+    HyperboloidEnergy::Palette(saturation, lightness).colorOf(e, rgb);
+}
+
+void Hyperboloid::computeColorForPoint(const float (&p)[3], float (&rgb)[3]) {
+    HyperboloidEnergy::colorOfPosition(p, rgb);
+}
+
+SoSeparator* Hyperboloid::DrawHyperboloid() {
+    const auto columns = static_cast<int>(columnsInTables());
+    const auto vertexCount = static_cast<int>(verticesInTables());
+    SceneNodes::setColors(*material, vertexCount, asTriples(colors));
+    // Per vertex, so that the material index of a picked point is its vertex index.
+    auto* binding = new SoMaterialBinding;
+    binding->value = SoMaterialBinding::PER_VERTEX;
+    SoQuadMesh* mesh = SceneNodes::createQuadMesh(static_cast<int>(numRow), columns);
+    mesh->setName("HyperboloidMesh");
+
+    SoSeparator* surface = SceneNodes::createSeparator("Hyperboloid");
+    surface->addChild(material.get());
+    surface->addChild(binding);
+    surface->addChild(SceneNodes::createCoordinates(vertexCount, asTriples(vertices)));
+    surface->addChild(mesh);
+    return surface;
+}
+
+SoSeparator* Hyperboloid::DrawU3Axis(float range, float radius) {
+    return HyperboloidDecorations::createU3Axis(spaces(), space, range, radius);
+}
+
+SoSeparator* Hyperboloid::DrawU3ConstAxis(float range, float radius) {
+    return HyperboloidDecorations::createU3ConstAxis(spaces(), space, {a, b, c, d}, range, radius);
+}
+
+SoSeparator* Hyperboloid::DrawUHat() {
+    return HyperboloidDecorations::createUHat(spaces(), space, sphereGroup.get());
+}
+
+SoSeparator* Hyperboloid::DrawCenter() {
+    return HyperboloidDecorations::createCenter(spaces(), space, sphereGroup.get());
+}
+
+SoSeparator* Hyperboloid::DrawTubeLine(Vecteur A, Vecteur B, float radius, bool blue) {
+    return HyperboloidDecorations::createTubeLine(A, B, radius, blue);
+}
+
+SoSeparator* Hyperboloid::DrawCone(Vecteur A, Vecteur B, float radius, float height) {
+    return HyperboloidDecorations::createCone(A, B, radius, height);
+}
+
+void Hyperboloid::find_normals(Vecteur v, Vecteur& nA, Vecteur& nB) {
+    HyperboloidDecorations::findNormals(v, nA, nB);
+}
+
+float Hyperboloid::getU(int i) const {
+    Vecteur coordinates = U; // the checked index is for writable vectors only
+    return static_cast<float>(coordinates[i]);
+}
+
+float Hyperboloid::getPNAS(char name) const {
+    switch (name) {
+    case 'a':
+        return a;
+    case 'b':
+        return b;
+    case 'c':
+        return c;
+    case 'd':
+        return d;
+    default:
+        return 0.0F;
+    }
+}
+
+double Hyperboloid::getPrec(int i) const {
+    switch (i) {
+    case 0:
+        return numCol;
+    case 1:
+        return numRow;
+    default:
+        return -1.0;
+    }
+}
+
+std::size_t Hyperboloid::columnsInTables() const {
+    return HyperboloidSurface::columnsThatFit(numCol, numRow, energies.size());
+}
+
+HyperboloidSpaces Hyperboloid::spaces() const {
+    return {rotationMatrix, shift, KMatrix, U};
+}

@@ -1,0 +1,192 @@
+#pragma once
+
+#include "hyperboloid/HyperboloidCoefficients.h"
+#include "hyperboloid/HyperboloidSpaces.h"
+#include "math/Matrice.h"
+#include "math/Vecteur.h"
+#include "scene/SceneNodes.h"
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+class SoGroup;
+class SoMaterial;
+class SoSeparator;
+
+/**
+ * A quadric surface in one of three spaces, with its energy colours and its decorations.
+ *
+ * The surface follows from the entries of a symmetric matrix K and a point uHat of U space. It is a
+ * grid of numCol columns by numRow rows; vertex k = column * numRow + row names the same parameter
+ * point in all three spaces (see HyperboloidSpaces for the maps between them).
+ *
+ * After a change of the parameters the order is: set_parameters, init_tables,
+ * generateHyperboloidPoints, DrawHyperboloid. Without init_tables the tables keep their size, and
+ * only the whole columns that fit into them are generated and drawn.
+ *
+ * Degenerate parameters are reported on the standard error stream and replaced by fallback values;
+ * K1 = K2 and negative lambdas are not reported and give NaN or infinite coordinates.
+ *
+ * Every Draw operation returns a new, unreferenced separator that the caller adds to a scene.
+ */
+class Hyperboloid {
+public:
+    /** Coordinates u. */
+    static constexpr int USPACE = HyperboloidSpaces::U;
+    /** Canonical coordinates x of the quadric. */
+    static constexpr int XSPACE = HyperboloidSpaces::X;
+    /** Coordinates m = K (u - uHat). */
+    static constexpr int MSPACE = HyperboloidSpaces::M;
+
+    /** A surface of 64 x 64 vertices, generated and, in U space, coloured. */
+    Hyperboloid(float K1, float K2, float K3, float K13, float K23, float U1, float U2, float U3,
+                int spaceIndex);
+    Hyperboloid(const Hyperboloid&) = delete;
+    Hyperboloid& operator=(const Hyperboloid&) = delete;
+    ~Hyperboloid();
+
+    /**
+     * Takes the parameters and derives all numbers from them; neither the tables' size nor the
+     * surface changes. A negative number of columns or rows counts as 0.
+     */
+    void set_parameters(double K1, double K2, double K3, double K13, double K23, double U1,
+                        double U2, double U3, int columns, int rows, double pointRadius,
+                        double constRange, double axisRange, double constRadius, double axisRadius);
+    /** Stores K (as floats and as the double matrix) and uHat. */
+    void set_k_uHat(double K1, double K2, double K3, double K13, double K23, double U1, double U2,
+                    double U3);
+    /** Recomputes a, b, c, d from K and uHat (HyperboloidCoefficients::pnas). */
+    void set_PNAS_var();
+    /**
+     * lambda of HyperboloidCoefficients; sets swapAxes. In the degenerate case it reports the
+     * error, returns (1, 1, 1) and leaves swapAxes as it was.
+     */
+    Vecteur get_lambda_set_coeff(float pnasA, float pnasB, float pnasC, float pnasD);
+    /** The shift s of HyperboloidCoefficients; for b d = 0 it reports the error and returns 0. */
+    Vecteur get_shift(float pnasA, float pnasB, float pnasC, float pnasD);
+    /** R = [[1, 1, -q - p], [1, -1, q - p], [0, 0, 1]] */
+    Matrice get_rotationMatrix(float p, float q);
+    /** Gives all point markers one new sphere of the radius. */
+    void createMySphere(float radius);
+
+    /** Makes the tables anew for numCol x numRow vertices, filled with 0. */
+    void init_tables();
+    /**
+     * Generates the points, and in U space their normalised energies, if `points`; then in U space
+     * the colours from the stored energies, if `colours`. In X and M space colours stay.
+     */
+    void generateHyperboloidPoints(bool points, bool colours);
+    /**
+     * p = (alpha0 r cos(theta), alpha1 r sin(theta), -alpha2 t) with r = sqrt(t^2 + 1), in float.
+     *
+     * Another parameterisation than the generated one on purpose: it ignores swapped axes and
+     * negates the third coordinate. Nothing of the viewer relies on it.
+     */
+    void computePositionForParams(float t, float theta, float (&p)[3]);
+    /** E = (K w) . w with w = u - uHat. */
+    double compute_energy(const float (&u)[3]);
+    /** Maps the energies of all vertices onto 0 to 1; equal energies become NaN. */
+    void normalize_energy();
+    /** The colour of a normalised energy: blue (0), green (0.5), red (1). */
+    void computeColorForPoint(float e, float (&rgb)[3]);
+    /** The colour of a position, a rule of its own that no surface wears. */
+    void computeColorForPoint(const float (&p)[3], float (&rgb)[3]);
+
+    /** The surface, named "Hyperboloid"; its mesh, named "HyperboloidMesh", is picked by vertex. */
+    SoSeparator* DrawHyperboloid();
+    /** The U3 axis with its arrow cone, named "U3Axis"; half-length and tube radius. */
+    SoSeparator* DrawU3Axis(float range, float radius);
+    /** The four U3-constant lines, named "U3ConstAxis"; half-length and tube radius. */
+    SoSeparator* DrawU3ConstAxis(float range, float radius);
+    /** The point uHat, named "uHat". */
+    SoSeparator* DrawUHat();
+    /** The centre of the quadric, named "Center". */
+    SoSeparator* DrawCenter();
+    /** A tube from A to B, blue or red, named "Axis". */
+    SoSeparator* DrawTubeLine(Vecteur A, Vecteur B, float radius, bool blue);
+    /** A cone on the base centre A that points away from B, named "Cone". */
+    SoSeparator* DrawCone(Vecteur A, Vecteur B, float radius, float height);
+    /** Two unit vectors perpendicular to v and to each other. */
+    void find_normals(Vecteur v, Vecteur& nA, Vecteur& nB);
+
+    /** The space index. */
+    [[nodiscard]] int WichSpace() const { return space; }
+    /** K1, K2, K3, K13, K23 for i = 0 to 4; i is not checked. */
+    [[nodiscard]] float getK(int i) const { return K[static_cast<std::size_t>(i)]; }
+    /** Component i of uHat; the vector reports an i above 2. */
+    [[nodiscard]] float getU(int i) const;
+    /** The value named 'a', 'b', 'c' or 'd'; 0 for any other name. */
+    [[nodiscard]] float getPNAS(char name) const;
+    /** numCol for 0, numRow for 1, -1 for anything else. */
+    [[nodiscard]] double getPrec(int i) const;
+    /** Radius of the point markers. */
+    [[nodiscard]] double getSpR() const { return SpR; }
+    [[nodiscard]] double getu3const_range() const { return u3const_range; }
+    [[nodiscard]] double getu3axis_range() const { return u3axis_range; }
+    [[nodiscard]] double getu3const_radius() const { return u3const_radius; }
+    [[nodiscard]] double getu3axis_radius() const { return u3axis_radius; }
+    [[nodiscard]] double getSaturation() const { return saturation; }
+    [[nodiscard]] double getLightness() const { return lightness; }
+    [[nodiscard]] double getTransparency() const { return transparency; }
+    /** Coordinate 0 to 2 of vertex k; neither is checked. */
+    [[nodiscard]] float getVertex(int k, int comp) const { return vertices[tableIndex(k, comp)]; }
+    /** Red, green or blue (0 to 2) of vertex k; neither is checked. */
+    [[nodiscard]] float getColor(int k, int comp) const { return colors[tableIndex(k, comp)]; }
+    [[nodiscard]] unsigned int getNumCol() const { return numCol; }
+    [[nodiscard]] unsigned int getNumRow() const { return numRow; }
+    [[nodiscard]] unsigned int getNumVertices() const { return numCol * numRow; }
+
+protected:
+    float a = 0.0F;
+    float b = 0.0F;
+    float c = 0.0F;
+    float d = 0.0F;
+    /** alpha0, alpha1, alpha2 */
+    std::array<float, 3> semiAxis{};
+    /** Half the range of the height parameter. */
+    float tRange = 4.0F;
+    int space;
+    /** K1, K2, K3, K13, K23; the derived numbers come from these floats, the maps from KMatrix. */
+    std::array<float, 5> K{};
+    /** 3 floats per vertex. */
+    std::vector<float> vertices;
+    /** Red, green, blue in 0 to 1 per vertex; computed in U space, copied from there by others. */
+    std::vector<float> colors;
+    /** 1 float in 0 to 1 per vertex; filled in U space only. */
+    std::vector<float> energies;
+    unsigned int numCol = 0;
+    unsigned int numRow = 0;
+    /** 0 to 1 */
+    double saturation = 0.8;
+    /** 0 to 1 */
+    double lightness = 0.5;
+    /** 0 to 1; it reaches the surface through `material`, never through `colors`. */
+    double transparency = 0.0;
+    double SpR = 0.0;
+    double u3const_range = 7.0;
+    double u3axis_range = 7.0;
+    double u3const_radius = 0.02;
+    double u3axis_radius = 0.03;
+    Matrice rotationMatrix;
+    Matrice KMatrix;
+    Vecteur lambda;
+    Vecteur shift;
+    /** uHat */
+    Vecteur U;
+    /** Whether the axis of the surface is the second coordinate of X space. */
+    bool swapAxes = false;
+    /** The surface's material, the same in every drawing of it. */
+    NodePointer<SoMaterial> material;
+    /** Holds the one sphere that every point marker shows. */
+    NodePointer<SoGroup> sphereGroup;
+
+private:
+    static std::size_t tableIndex(int k, int comp) {
+        return std::size_t{3} * static_cast<std::size_t>(k) + static_cast<std::size_t>(comp);
+    }
+    /** The columns of the grid that the tables hold: all, unless init_tables was left out. */
+    [[nodiscard]] std::size_t columnsInTables() const;
+    [[nodiscard]] std::size_t verticesInTables() const { return columnsInTables() * numRow; }
+    [[nodiscard]] HyperboloidSpaces spaces() const;
+};

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "hyperboloid/HyperboloidCoefficients.h"
+#include "hyperboloid/HyperboloidSpaces.h"
+#include "math/Vecteur.h"
+
+class SoGroup;
+class SoSeparator;
+
+/**
+ * What is drawn beside the surface: the U3 axis, the rulings of constant u3, uHat and the centre.
+ *
+ * Each maker returns a new, unreferenced separator; nothing is kept. Lines are defined in U space
+ * and carried into the space in which they are drawn.
+ */
+namespace HyperboloidDecorations {
+
+/**
+ * Two vectors perpendicular to v and to each other: unit vectors (-v1, v0, 0) and v x (-v1, v0, 0).
+ *
+ * For a v along the third axis they are (1, 0, 0) and (0, 1, 0), whatever v's sign.
+ */
+void findNormals(Vecteur v, Vecteur& nA, Vecteur& nB);
+
+/** A tube of two rings of 30 points from A to B, blue or red; the separator is named "Axis". */
+SoSeparator* createTubeLine(Vecteur A, Vecteur B, float radius, bool blue);
+
+/**
+ * A blue cone on the base centre A whose apex lies `height` away on the far side from B; the
+ * separator is named "Cone".
+ *
+ * Points: 0 is the apex, 1 to 30 the rim, 31 the base centre.
+ */
+SoSeparator* createCone(Vecteur A, Vecteur B, float radius, float height);
+
+/**
+ * The line u1 = u2 = 0, u3 in -range to range, as a blue tube with an arrow cone at -range; named
+ * "U3Axis".
+ */
+SoSeparator* createU3Axis(const HyperboloidSpaces& spaces, int space, float range, float radius);
+
+/**
+ * The four rulings of the surface on which u3 is constant (-a/b or -c/d), as red tubes of
+ * half-length `range`; named "U3ConstAxis". b = 0 or d = 0 gives infinite or NaN lines.
+ */
+SoSeparator* createU3ConstAxis(const HyperboloidSpaces& spaces, int space,
+                               const HyperboloidCoefficients::Pnas& pnas, float range,
+                               float radius);
+
+/** The given marker in yellow at uHat; named "uHat". */
+SoSeparator* createUHat(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
+
+/** The given marker in red at the centre of the quadric; named "Center". */
+SoSeparator* createCenter(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
+
+} // namespace HyperboloidDecorations

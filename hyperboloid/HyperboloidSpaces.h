@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hyperboloid/Triple.h"
+#include "math/Matrice.h"
+#include "math/Vecteur.h"
+
+/**
+ * The maps between the three spaces in which the hyperboloid is drawn.
+ *
+ * U space holds the parameter points u, X space the canonical coordinates x of the quadric, M space
+ * the images m of u under the matrix K:
+ *
+ *     x = R u + s      u = R^-1 (x - s)      m = K (u - uHat)
+ *
+ * R is a shear-like matrix, not orthogonal. It is inverted once, on construction; a singular R
+ * gives infinite or NaN coordinates and no error.
+ */
+class HyperboloidSpaces {
+public:
+    static constexpr int U = 0;
+    static constexpr int X = 1;
+    static constexpr int M = 2;
+
+    HyperboloidSpaces(Matrice rotationMatrix, Vecteur shiftVector, Matrice KMatrix,
+                      Vecteur uHatVector);
+
+    /** x = R u + s */
+    [[nodiscard]] Triple xFromU(const Triple& u) const { return rotation * u + shift; }
+    /** u = R^-1 (x - s) */
+    [[nodiscard]] Triple uFromX(const Triple& x) const { return inverseRotation * (x - shift); }
+    /** m = K (u - uHat) */
+    [[nodiscard]] Triple mFromU(const Triple& u) const { return K * (u - uHat); }
+
+    /** A point of U space carried into the given space; an unknown space is taken for U. */
+    [[nodiscard]] Triple fromU(const Triple& u, int space) const;
+    /** The distinguished point uHat, seen in the given space: the origin of M space. */
+    [[nodiscard]] Triple distinguishedPoint(int space) const;
+    /** The centre of the quadric, seen in the given space: the origin of X space. */
+    [[nodiscard]] Triple center(int space) const;
+
+private:
+    Triple uHat;
+    Triple shift;
+    TripleMatrix rotation;
+    TripleMatrix inverseRotation;
+    TripleMatrix K;
+};
+
+/** The first three coordinates of a vector, which throws its own message if it has fewer. */
+Triple toTriple(Vecteur vector);
+/** The nine entries of a 3x3 matrix, copied to the stack. */
+TripleMatrix toTripleMatrix(Matrice matrix);

@@ -1,0 +1,195 @@
+#include "hyperboloid/HyperboloidEnergy.h"
+
+#include "tests/hyperboloid/OpenHyperboloid.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using HyperboloidEnergy::Palette;
+using Color = std::array<float, 3>;
+
+constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinity = std::numeric_limits<float>::infinity();
+
+Color colorOf(double saturation, double lightness, float energy) {
+    float rgb[3];
+    Palette(saturation, lightness).colorOf(energy, rgb);
+    return {rgb[0], rgb[1], rgb[2]};
+}
+
+void expectColor(const Color& color, float red, float green, float blue) {
+    EXPECT_FLOAT_EQ(color[0], red);
+    EXPECT_FLOAT_EQ(color[1], green);
+    EXPECT_FLOAT_EQ(color[2], blue);
+}
+
+TEST(HyperboloidEnergy, EnergyIsTheQuadraticFormOfTheDifferenceFromUHat) {
+    const TripleMatrix K{{2.0, 0.0, 5.0}, {0.0, 3.0, 7.0}, {5.0, 7.0, 11.0}};
+    // w = (1, 2, 3): K w = (17, 27, 52)
+    EXPECT_EQ(HyperboloidEnergy::energyAt({2.0F, 4.0F, 6.0F}, K, {1.0, 2.0, 3.0}),
+              17.0 + 2.0 * 27.0 + 3.0 * 52.0);
+}
+
+TEST(HyperboloidEnergy, EnergyUsesTheDoubleMatrixAndTheDoubleUHat) {
+    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.set_k_uHat(0.1, 0.0, 0.0, 0.0, 0.0, 0.3, 0.0, 0.0);
+    const double w = double{0.7F} - 0.3;
+    EXPECT_EQ(hyperboloid.compute_energy({0.7F, 1.0F, 1.0F}), 0.1 * w * w);
+}
+
+TEST(HyperboloidEnergy, EnergyOfUHatItselfIsZero) {
+    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    EXPECT_EQ(hyperboloid.compute_energy({1.0F, 0.0F, 0.0F}), 0.0);
+}
+
+TEST(HyperboloidEnergy, NormalizedEnergiesRunFromExactlyZeroToExactlyOne) {
+    float energies[] = {3.0F, -1.0F, 7.0F, 0.1F};
+    HyperboloidEnergy::normalize(energies, 4);
+    EXPECT_EQ(energies[0], 0.5F);
+    EXPECT_EQ(energies[1], 0.0F);
+    EXPECT_EQ(energies[2], 1.0F);
+    EXPECT_EQ(energies[3], (0.1F + 1.0F) / 8.0F);
+}
+
+TEST(HyperboloidEnergy, NormalizingTouchesOnlyTheGivenCount) {
+    float energies[] = {0.0F, 2.0F, 100.0F};
+    HyperboloidEnergy::normalize(energies, 2);
+    EXPECT_EQ(energies[1], 1.0F);
+    EXPECT_EQ(energies[2], 100.0F);
+    HyperboloidEnergy::normalize(nullptr, 0);
+}
+
+TEST(HyperboloidEnergy, EqualEnergiesBecomeNan) {
+    float energies[] = {4.0F, 4.0F, 4.0F};
+    HyperboloidEnergy::normalize(energies, 3);
+    EXPECT_TRUE(std::all_of(energies, energies + 3, [](float e) { return std::isnan(e); }));
+}
+
+TEST(HyperboloidEnergy, ALeadingNanSpoilsAllEnergies) {
+    float energies[] = {nan, 1.0F, 2.0F};
+    HyperboloidEnergy::normalize(energies, 3);
+    EXPECT_TRUE(std::all_of(energies, energies + 3, [](float e) { return std::isnan(e); }));
+}
+
+TEST(HyperboloidEnergy, ALaterNanStaysAlone) {
+    float energies[] = {1.0F, nan, 2.0F};
+    HyperboloidEnergy::normalize(energies, 3);
+    EXPECT_EQ(energies[0], 0.0F);
+    EXPECT_TRUE(std::isnan(energies[1]));
+    EXPECT_EQ(energies[2], 1.0F);
+}
+
+TEST(HyperboloidEnergy, AnInfiniteEnergyPressesTheOthersToZero) {
+    float energies[] = {1.0F, infinity, 2.0F};
+    HyperboloidEnergy::normalize(energies, 3);
+    EXPECT_EQ(energies[0], 0.0F);
+    EXPECT_TRUE(std::isnan(energies[1]));
+    EXPECT_EQ(energies[2], 0.0F);
+}
+
+TEST(HyperboloidColors, LowestEnergyIsBlueMiddleGreenHighestRed) {
+    expectColor(colorOf(0.8, 0.5, 0.0F), 0.1F, 0.1F, 0.9F);
+    expectColor(colorOf(0.8, 0.5, 0.5F), 0.1F, 0.9F, 0.1F);
+    expectColor(colorOf(0.8, 0.5, 1.0F), 0.9F, 0.1F, 0.1F);
+}
+
+TEST(HyperboloidColors, QuarterEnergiesLieBetweenTwoChannels) {
+    expectColor(colorOf(0.8, 0.5, 0.25F), 0.1F, 0.9F, 0.9F);  // hue 1/2
+    expectColor(colorOf(0.8, 0.5, 0.75F), 0.9F, 0.9F, 0.1F);  // hue 1/6
+    expectColor(colorOf(0.8, 0.5, 0.125F), 0.1F, 0.5F, 0.9F); // hue 7/12, green on the way up
+    expectColor(colorOf(0.8, 0.5, 0.875F), 0.9F, 0.5F, 0.1F); // hue 1/12
+}
+
+TEST(HyperboloidColors, DarkLightnessTakesTheOtherFormulaOfTheHighestChannel) {
+    // q = 0.25 (1 + 0.8) = 0.45, p = 0.05
+    expectColor(colorOf(0.8, 0.25, 1.0F), 0.45F, 0.05F, 0.05F);
+    // q = 0.75 + 0.8 - 0.6 = 0.95, p = 0.55
+    expectColor(colorOf(0.8, 0.75, 1.0F), 0.95F, 0.55F, 0.55F);
+}
+
+TEST(HyperboloidColors, WithoutSaturationEveryEnergyIsTheGreyOfTheLightness) {
+    for (const float energy : {0.0F, 0.3F, 1.0F, nan, infinity, -infinity}) {
+        EXPECT_EQ(colorOf(0.0, 0.3, energy), (Color{0.3F, 0.3F, 0.3F}));
+    }
+}
+
+TEST(HyperboloidColors, FullLightnessIsWhiteAndNoneIsBlack) {
+    for (const float energy : {0.0F, 0.1F, 0.3F, 0.5F, 0.77F, 1.0F}) {
+        EXPECT_EQ(colorOf(0.8, 1.0, energy), (Color{1.0F, 1.0F, 1.0F}));
+        EXPECT_EQ(colorOf(0.8, 0.0, energy), (Color{0.0F, 0.0F, 0.0F}));
+    }
+}
+
+TEST(HyperboloidColors, FullSaturationReachesPureColours) {
+    EXPECT_EQ(colorOf(1.0, 0.5, 1.0F), (Color{1.0F, 0.0F, 0.0F}));
+    expectColor(colorOf(1.0, 0.5, 0.75F), 1.0F, 1.0F, 0.0F);
+}
+
+TEST(HyperboloidColors, ANanEnergyHasTheLowestValueInAllChannels) {
+    expectColor(colorOf(0.8, 0.5, nan), 0.1F, 0.1F, 0.1F);
+}
+
+TEST(HyperboloidColors, ANanLightnessTakesOneHalfForTheHighestChannel) {
+    const Color color = colorOf(0.8, static_cast<double>(nan), 0.5F);
+    EXPECT_TRUE(std::isnan(color[0]));
+    EXPECT_EQ(color[1], 0.5F);
+    EXPECT_TRUE(std::isnan(color[2]));
+}
+
+TEST(HyperboloidColors, ATableIsColouredLikeItsSingleEnergies) {
+    const std::vector<float> energies{0.0F, 0.11F, 0.5F, nan, 0.9F, 1.0F};
+    std::vector<float> colors(3 * energies.size() + 1, -1.0F);
+    Palette(0.6, 0.4).colorsOf(energies.data(), energies.size(), colors.data());
+    for (std::size_t k = 0; k < energies.size(); ++k) {
+        EXPECT_EQ((Color{colors[3 * k], colors[3 * k + 1], colors[3 * k + 2]}),
+                  colorOf(0.6, 0.4, energies[k]));
+    }
+    EXPECT_EQ(colors.back(), -1.0F);
+}
+
+TEST(HyperboloidColors, TheModelReadsItsSettingsWhenItColours) {
+    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.saturation = 0.0;
+    hyperboloid.lightness = 0.25;
+    hyperboloid.transparency = 0.75;
+    const std::vector<float> energies = hyperboloid.energies;
+    const std::vector<float> points = hyperboloid.vertices;
+    hyperboloid.generateHyperboloidPoints(false, true);
+    EXPECT_EQ(hyperboloid.energies, energies);
+    EXPECT_EQ(hyperboloid.vertices, points);
+    EXPECT_TRUE(std::all_of(hyperboloid.colors.begin(), hyperboloid.colors.end(),
+                            [](float channel) { return channel == 0.25F; }));
+    float rgb[3];
+    hyperboloid.computeColorForPoint(0.5F, rgb);
+    EXPECT_EQ(rgb[1], 0.25F);
+}
+
+TEST(HyperboloidColors, RecolouringReadsTheStoredEnergies) {
+    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.energies[5] = 0.5F;
+    hyperboloid.generateHyperboloidPoints(false, true);
+    EXPECT_FLOAT_EQ(hyperboloid.getColor(5, 0), 0.1F);
+    EXPECT_FLOAT_EQ(hyperboloid.getColor(5, 1), 0.9F);
+    EXPECT_FLOAT_EQ(hyperboloid.getColor(5, 2), 0.1F);
+}
+
+TEST(HyperboloidColors, TheColourOfAPositionFollowsItsOwnRule) {
+    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    float rgb[3];
+    hyperboloid.computeColorForPoint({1.5F, -2.0F, 0.7F}, rgb);
+    const float sums[] = {-2.0F * 1.5F + 0.7F * -2.0F, 0.7F * 1.5F + -2.0F * 0.7F,
+                          1.5F * 0.7F + -2.0F * 1.5F};
+    for (int i = 0; i < 3; ++i) {
+        const float wave = std::fabs(std::sin(std::sqrt(std::fabs(sums[i]))));
+        EXPECT_EQ(rgb[i], static_cast<float>(double{wave} * 0.8));
+    }
+    hyperboloid.computeColorForPoint({0.0F, 0.0F, 0.0F}, rgb);
+    EXPECT_EQ(rgb[0], 0.0F);
+}
+
+} // namespace
