@@ -24,7 +24,10 @@ int countOf(const Helix::Table& table) {
 
 void addVertexColors(SoSeparator& parent, const Helix::Table& colors) {
     auto* material = new SoMaterial;
-    SceneNodes::setColors(*material, countOf(colors), valuesOf(colors));
+    // Without any vertex the material keeps its own colours: the scene library wants at least one.
+    if (!colors.empty()) {
+        SceneNodes::setColors(*material, countOf(colors), valuesOf(colors));
+    }
     parent.addChild(material);
     auto* binding = new SoMaterialBinding;
     binding->value = SoMaterialBinding::PER_VERTEX;

@@ -30,9 +30,6 @@ SoMaterial* SceneNodes::createMaterial(float red, float green, float blue) {
 }
 
 void SceneNodes::setColors(SoMaterial& material, int count, const float (*colors)[3]) {
-    if (count == 0) {
-        return;
-    }
     setTriples(material.ambientColor, count, colors);
     setTriples(material.diffuseColor, count, colors);
     setTriples(material.specularColor, count, colors);

@@ -30,10 +30,7 @@ SoSeparator* createSeparator(const char* name);
 /** A material whose ambient, diffuse and specular colours are all the one given colour. */
 SoMaterial* createMaterial(float red, float green, float blue);
 
-/**
- * Gives the ambient, the diffuse and the specular colours of a material the same table. Without any
- * colours the material keeps its own: the scene library draws with at least one.
- */
+/** Gives the ambient, the diffuse and the specular colours of a material the same table. */
 void setColors(SoMaterial& material, int count, const float (*colors)[3]);
 
 /** Coordinates holding a copy of the given points. */
