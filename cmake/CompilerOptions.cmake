@@ -4,7 +4,6 @@
 # their path from the project's root ("math/Vecteur.h"), so an include shows which layer it uses.
 
 add_library(torvane_options INTERFACE)
-target_compile_features(torvane_options INTERFACE cxx_std_17)
 target_compile_options(
   torvane_options
   INTERFACE

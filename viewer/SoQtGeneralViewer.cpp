@@ -5,7 +5,9 @@
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
-#include <QGLWidget>
+#include <Inventor/system/gl.h>
+#include <QWidget>
+#include <QWindow>
 
 SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed)
     : SoQtExaminerViewer(owner, name, embed, SoQtFullViewer::BUILD_ALL, SoQtViewer::BROWSER)
@@ -45,18 +47,27 @@ bool SoQtGeneralViewer::processKey(const SoEvent* event) {
     }
 }
 
-void SoQtGeneralViewer::actualRedraw() {
-    const SbVec2s size = getViewportRegion().getViewportSizePixels();
-    if (size != presentedSize) {
-        presentedSize = size;
-        presentEmptyFrame();
+void SoQtGeneralViewer::redraw() {
+    const QWindow* window = getGLWidget()->windowHandle();
+    if (window == nullptr || !window->isExposed()) {
+        return;
     }
-    SoQtExaminerViewer::actualRedraw();
+    const SbVec2s size = getViewportRegion().getWindowSize();
+    if (size == presentedSize) {
+        SoQtExaminerViewer::redraw();
+        return;
+    }
+    presentedSize = size;
+    presentEmptyFrame();
+    // The toolkit paints the widget after a change of size anyway: the scene is drawn with that.
+    getGLWidget()->update();
 }
 
 void SoQtGeneralViewer::presentEmptyFrame() {
+    glLockNormal();
     const SbColor& background = getBackgroundColor();
     glClearColor(background[0], background[1], background[2], 0);
     glClear(GL_COLOR_BUFFER_BIT);
-    static_cast<QGLWidget*>(getGLWidget())->swapBuffers();
+    glSwapBuffers();
+    glUnlockNormal();
 }

@@ -28,7 +28,12 @@ public:
 
 protected:
     SbBool processSoEvent(const SoEvent* event) override;
-    void actualRedraw() override;
+    /**
+     * Draws the scene. After a change of size it only prepares the window, and the scene is drawn
+     * once, when the toolkit paints the widget in its new size. A window that is not on the screen
+     * is not drawn at all: coming to the screen, it is painted.
+     */
+    void redraw() override;
 
 private:
     /** Handles the viewer's own keys; returns whether the event was one of them. */

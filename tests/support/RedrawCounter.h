@@ -1,0 +1,58 @@
+#pragma once
+
+#include "viewer/SoQtGeneralViewerFrame.h"
+
+#include <Inventor/SoDB.h>
+#include <Inventor/actions/SoGLRenderAction.h>
+#include <Inventor/nodes/SoCallback.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/sensors/SoSensorManager.h>
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+#include "tests/support/Waiting.h"
+
+/** Counts how often a frame's scene is drawn, by a node of its own at the scene's end. */
+class RedrawCounter {
+public:
+    explicit RedrawCounter(const SoQtGeneralViewerFrame& frame)
+        : root(frame.getSceneRoot())
+        , node(new SoCallback) {
+        node->setCallback(countDrawing, this);
+        root->addChild(node.get());
+        settle();
+        count = 0;
+    }
+    ~RedrawCounter() { root->removeChild(node.get()); }
+    RedrawCounter(const RedrawCounter&) = delete;
+    RedrawCounter& operator=(const RedrawCounter&) = delete;
+
+    /** Handles events until no view has a redraw pending. */
+    static void settle() {
+        SoSensorManager& sensors = *SoDB::getSensorManager();
+        EXPECT_TRUE(waitUntil([&] {
+            QCoreApplication::processEvents();
+            return sensors.isDelaySensorPending() == FALSE;
+        }));
+        QCoreApplication::processEvents();
+    }
+
+    /** Times drawn since the last call. */
+    int take() {
+        settle();
+        const int taken = count;
+        count = 0;
+        return taken;
+    }
+
+private:
+    static void countDrawing(void* counter, SoAction* action) {
+        if (action->isOfType(SoGLRenderAction::getClassTypeId())) {
+            ++static_cast<RedrawCounter*>(counter)->count;
+        }
+    }
+
+    NodePointer<SoSeparator> root;
+    NodePointer<SoCallback> node;
+    int count = 0;
+};
