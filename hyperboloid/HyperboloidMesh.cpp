@@ -1,0 +1,161 @@
+#include "hyperboloid/HyperboloidMesh.h"
+
+#include <Inventor/SbBox3f.h>
+#include <Inventor/SbLine.h>
+#include <Inventor/SoPrimitiveVertex.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/caches/SoNormalCache.h>
+#include <Inventor/details/SoFaceDetail.h>
+#include <Inventor/details/SoPointDetail.h>
+#include <Inventor/elements/SoCoordinateElement.h>
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+namespace {
+
+/** Quadrilaterals along each side of a patch. */
+constexpr int patchSize = 16;
+
+/** What rounding may move a ray sideways, as a share of the distance. */
+constexpr double rounding = 1e-5;
+
+/** The radius of a patch without any finite vertex. */
+constexpr double nothingToHit = -std::numeric_limits<double>::infinity();
+
+bool isFinite(const SbVec3f& point) {
+    return std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
+}
+
+/** Whether a line comes as near to a point as a radius; also when that cannot be told (NaN). */
+bool comesNear(const SbLine& line, const SbVec3f& center, double radius) {
+    const SbVec3f toCenter = center - line.getPosition();
+    const double distance = toCenter.cross(line.getDirection()).length();
+    return !(distance > radius + rounding * toCenter.length());
+}
+
+} // namespace
+
+HyperboloidMesh::HyperboloidMesh(int rows, int columns) {
+    verticesPerRow = rows;
+    verticesPerColumn = columns;
+}
+
+void HyperboloidMesh::rayPick(SoRayPickAction* action) {
+    if (!shouldRayPick(action)) {
+        return;
+    }
+    computeObjectSpaceRay(action);
+    const SoCoordinateElement* coordinates = nullptr;
+    const SbVec3f* normals = nullptr;
+    getVertexData(action->getState(), coordinates, normals, TRUE);
+    const bool generatesNormals = normals == nullptr;
+    if (generatesNormals) {
+        normals = generateAndReadLockNormalCache(action->getState())->getNormals();
+    }
+    const SbVec3f* points = coordinates->getArrayPtr3();
+    updateBands(points);
+    for (const Band& band : bands) {
+        pickInBand(action, band, points, normals);
+    }
+    if (generatesNormals) {
+        readUnlockNormalCache();
+    }
+}
+
+void HyperboloidMesh::updateBands(const SbVec3f* points) {
+    if (points == boundedPoints) {
+        return;
+    }
+    boundedPoints = points;
+    bands.clear();
+    for (int strip = 0; strip < verticesPerColumn.getValue() - 1; strip += patchSize) {
+        Band band;
+        for (int quad = 0; quad < verticesPerRow.getValue() - 1; quad += patchSize) {
+            band.push_back(createPatch(strip, quad, points));
+        }
+        bands.push_back(std::move(band));
+    }
+}
+
+HyperboloidMesh::Patch HyperboloidMesh::createPatch(int firstStrip, int firstQuad,
+                                                    const SbVec3f* points) const {
+    const int rows = verticesPerRow.getValue();
+    Patch patch{
+        firstStrip,       std::min(firstStrip + patchSize, verticesPerColumn.getValue() - 1),
+        firstQuad,        std::min(firstQuad + patchSize, rows - 1),
+        SbVec3f(0, 0, 0), std::numeric_limits<double>::infinity()};
+    SbBox3f box;
+    for (int column = patch.firstStrip; column <= patch.lastStrip; ++column) {
+        for (int row = patch.firstQuad; row <= patch.lastQuad; ++row) {
+            const SbVec3f& point = points[column * rows + row];
+            if (isFinite(point)) {
+                box.extendBy(point);
+            }
+        }
+    }
+    if (!box.isEmpty()) {
+        patch.center = box.getCenter();
+        patch.radius = (1 + rounding) * (box.getMax() - patch.center).length();
+    }
+    return patch;
+}
+
+void HyperboloidMesh::pickInBand(SoRayPickAction* action, const Band& band, const SbVec3f* points,
+                                 const SbVec3f* normals) {
+    Band near;
+    const SbLine ray = action->getLine();
+    std::copy_if(band.begin(), band.end(), std::back_inserter(near),
+                 [&](const Patch& patch) { return comesNear(ray, patch.center, patch.radius); });
+    if (near.empty()) {
+        return;
+    }
+    for (int strip = near.front().firstStrip; strip < near.front().lastStrip; ++strip) {
+        for (const Patch& patch : near) {
+            pickInStrip(action, strip, patch, points, normals);
+        }
+    }
+}
+
+void HyperboloidMesh::pickInStrip(SoRayPickAction* action, int strip, const Patch& patch,
+                                  const SbVec3f* points, const SbVec3f* normals) {
+    SoFaceDetail faceDetail;
+    faceDetail.setPartIndex(strip);
+    bool isOpen = false;
+    for (int row = patch.firstQuad; row <= patch.lastQuad; ++row) {
+        const int left = strip * verticesPerRow.getValue() + row;
+        const int right = left + verticesPerRow.getValue();
+        // The library takes every ray for a hit of a triangle that is not finite: leave those out.
+        const bool isDrawn = isFinite(points[left]) && isFinite(points[right]);
+        if (isOpen && !isDrawn) {
+            endShape();
+        } else if (!isOpen && isDrawn) {
+            beginShape(action, QUAD_STRIP, &faceDetail);
+        }
+        isOpen = isDrawn;
+        if (isDrawn) {
+            // This pair of vertices completes the quadrilateral that began with the pair before.
+            faceDetail.setFaceIndex(std::max(row - 1, 0));
+            sendVertex(left, points, normals);
+            sendVertex(right, points, normals);
+        }
+    }
+    if (isOpen) {
+        endShape();
+    }
+}
+
+void HyperboloidMesh::sendVertex(int index, const SbVec3f* points, const SbVec3f* normals) {
+    SoPointDetail detail;
+    detail.setCoordinateIndex(index);
+    detail.setMaterialIndex(index);
+    detail.setNormalIndex(index);
+    SoPrimitiveVertex vertex;
+    vertex.setDetail(&detail);
+    vertex.setMaterialIndex(index);
+    vertex.setPoint(points[index]);
+    vertex.setNormal(normals[index]);
+    shapeVertex(&vertex);
+}

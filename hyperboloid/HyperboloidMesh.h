@@ -1,0 +1,54 @@
+#pragma once
+
+#include <Inventor/nodes/SoQuadMesh.h>
+#include <vector>
+
+/**
+ * The surface's mesh: to everyone who looks an SoQuadMesh like any other, but quicker to pick.
+ *
+ * The library's mesh intersects a ray with every triangle. This one divides the grid into patches
+ * with a bounding sphere each, and hands the library only the triangles of patches that the ray
+ * comes near, in the library's own order, so that the picked point is the same to the last bit.
+ * Triangles with a vertex that is not finite are never hit.
+ *
+ * It has no type of its own in the scene library, on purpose: getTypeId() is SoQuadMesh's. It takes
+ * its vertices from the coordinates in force, from the first one on; these must not be edited in
+ * place once the mesh was picked.
+ */
+class HyperboloidMesh : public SoQuadMesh {
+public:
+    HyperboloidMesh(int rows, int columns);
+    HyperboloidMesh(const HyperboloidMesh&) = delete;
+    HyperboloidMesh& operator=(const HyperboloidMesh&) = delete;
+
+    void rayPick(SoRayPickAction* action) override;
+
+protected:
+    ~HyperboloidMesh() override = default;
+
+private:
+    /** Quadrilaterals firstQuad to lastQuad - 1 of the strips firstStrip to lastStrip - 1. */
+    struct Patch {
+        int firstStrip;
+        int lastStrip;
+        int firstQuad;
+        int lastQuad;
+        SbVec3f center;
+        /** Radius of a sphere around the finite vertices. */
+        double radius;
+    };
+    /** The patches that share their strips, in the order of their quadrilaterals. */
+    using Band = std::vector<Patch>;
+
+    void updateBands(const SbVec3f* points);
+    Patch createPatch(int firstStrip, int firstQuad, const SbVec3f* points) const;
+    void pickInBand(SoRayPickAction* action, const Band& band, const SbVec3f* points,
+                    const SbVec3f* normals);
+    void pickInStrip(SoRayPickAction* action, int strip, const Patch& patch, const SbVec3f* points,
+                     const SbVec3f* normals);
+    void sendVertex(int index, const SbVec3f* points, const SbVec3f* normals);
+
+    std::vector<Band> bands;
+    /** The coordinates that the bands were made from. */
+    const SbVec3f* boundedPoints = nullptr;
+};
