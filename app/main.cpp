@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 #include "app/StartUp.h"
+#include "app/TerminationSignals.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <QApplication>
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     StartUp::prepareEnvironment();
     QApplication application(argc, argv);
     StartUp::setPlugInPath();
+    TerminationSignals terminationSignals;
 
     QSplashScreen splash(QPixmap(":/images/splash.png"));
     StartUp::showSplash(splash);
@@ -22,6 +24,10 @@ int main(int argc, char** argv) {
     SoQt::show(mainWindow.get());
     splash.finish(mainWindow.get());
 
+    // Leaving all event loops also ends a dialog that is still open.
+    QObject::connect(&terminationSignals, SIGNAL(received()), mainWindow.get(), SLOT(close()));
+    QObject::connect(&terminationSignals, SIGNAL(received()), &application, SLOT(quit()));
+    terminationSignals.deliver();
     SoQt::mainLoop();
     // The viewers go before the toolkit: closing does that, and nothing more when it is done.
     mainWindow->close();

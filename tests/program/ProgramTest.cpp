@@ -1,0 +1,149 @@
+#include "tests/program/RunningViewer.h"
+
+#include <QProcess>
+#include <gtest/gtest.h>
+
+namespace {
+
+/** The viewer with the first helix tied to the U view, which has the keyboard. */
+class TiedViewer : public RunningViewer {
+public:
+    TiedViewer() {
+        EXPECT_TRUE(waitUntilAllViewsAreDrawn());
+        // The helix is active at start; clicking the U view right after it ties the two.
+        click(1, uView().topLeft() + QPoint(5, 5));
+        EXPECT_TRUE(waitUntilChanged(statusBar(), QImage()));
+    }
+};
+
+/** Expects that doing something changes the helix, all three surfaces' views and the status bar. */
+template <typename Action>
+void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
+    const QImage before = viewer.screen();
+    action();
+    const std::pair<const char*, QRect> places[] = {{"helix", viewer.helixView()},
+                                                    {"U", viewer.uView()},
+                                                    {"X", viewer.xView()},
+                                                    {"M", viewer.mView()},
+                                                    {"status bar", viewer.statusBar()}};
+    for (const auto& [name, place] : places) {
+        EXPECT_TRUE(viewer.waitUntilChanged(place, before.copy(place))) << name;
+    }
+}
+
+} // namespace
+
+TEST(Program, ShowsFourDrawnViewsWithoutAnyInteraction) {
+    RunningViewer viewer;
+    EXPECT_TRUE(viewer.waitUntilAllViewsAreDrawn());
+}
+
+TEST(Program, RightButtonOnTheSurfaceMovesTheSphereEverywhere) {
+    const TiedViewer viewer;
+    expectMovesEverywhere(viewer, [&] { viewer.click(3, viewer.surfaceIn(viewer.uView())); });
+}
+
+TEST(Program, LeftButtonPicksInPickingMode) {
+    const TiedViewer viewer;
+    // Escape leaves the examiner's viewing mode.
+    viewer.key("Escape");
+    expectMovesEverywhere(viewer, [&] { viewer.click(1, viewer.surfaceIn(viewer.uView())); });
+}
+
+TEST(Program, DirectionKeysStepTheSphereEverywhere) {
+    const TiedViewer viewer;
+    for (const char* key :
+         {"Down", "s", "KP_2", "Left", "a", "KP_4", "Up", "w", "KP_8", "Right", "d", "KP_6"}) {
+        SCOPED_TRACE(key);
+        expectMovesEverywhere(viewer, [&] { viewer.key(key); });
+    }
+}
+
+TEST(Program, SpaceCyclesThroughTheThreeDrawStyles) {
+    const TiedViewer viewer;
+    const QImage phong = viewer.screen(viewer.uView());
+    viewer.key("space");
+    EXPECT_TRUE(viewer.waitUntilChanged(viewer.uView(), phong));
+    const QImage solid = viewer.screen(viewer.uView());
+    viewer.key("space");
+    EXPECT_TRUE(viewer.waitUntilChanged(viewer.uView(), solid));
+    viewer.key("space");
+    EXPECT_TRUE(viewer.waitUntilLike(viewer.uView(), phong));
+}
+
+TEST(Program, PAndOChangeTheCamera) {
+    const TiedViewer viewer;
+    const QImage orthographic = viewer.screen(viewer.uView());
+    viewer.key("p");
+    EXPECT_TRUE(viewer.waitUntilChanged(viewer.uView(), orthographic));
+    const QImage perspective = viewer.screen(viewer.uView());
+    viewer.key("o");
+    EXPECT_TRUE(viewer.waitUntilChanged(viewer.uView(), perspective));
+}
+
+TEST(Program, DragTurnsTheView) {
+    const TiedViewer viewer;
+    const QImage before = viewer.screen(viewer.uView());
+    const QPoint middle = viewer.uView().center();
+    RunningViewer::xdotool({"mousemove", QString::number(middle.x()), QString::number(middle.y())});
+    RunningViewer::xdotool({"mousedown", "1"});
+    RunningViewer::xdotool({"mousemove_relative", "60", "40"});
+    RunningViewer::xdotool({"mousemove_relative", "10", "5"});
+    RunningViewer::xdotool({"mouseup", "1"});
+    EXPECT_TRUE(viewer.waitUntilChanged(viewer.uView(), before));
+}
+
+TEST(Program, QuitShortcutEndsItCleanlyAndStoresTheGeometry) {
+    TiedViewer viewer;
+    viewer.key("ctrl+n");
+    viewer.key("ctrl+q");
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+    EXPECT_EQ(viewer.errors(), "");
+    EXPECT_TRUE(viewer.storedSettings().contains("pos=@Point(0 0)"));
+    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
+}
+
+TEST(Program, TerminationSignalEndsItLikeClosingItsWindow) {
+    RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
+    ASSERT_TRUE(viewer.waitForWindow());
+    viewer.terminate();
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(400 400)"));
+}
+
+TEST(Program, TerminationSignalEndsItWithADialogOpen) {
+    TiedViewer viewer;
+    const QImage before = viewer.screen();
+    viewer.key("ctrl+p");
+    EXPECT_TRUE(viewer.waitUntilChanged(before.rect(), before));
+    viewer.terminate();
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
+}
+
+TEST(Program, TerminationSignalDuringStartUpEndsIt) {
+    RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
+    EXPECT_TRUE(viewer.waitForAnyWindow());
+    viewer.terminate();
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+}
+
+TEST(Program, LosingTheDisplayEndsItWithAMessage) {
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24"});
+    ASSERT_TRUE(server.waitForReadyRead());
+    RunningViewer viewer(":" + QString(server.readLine()).trimmed());
+    ASSERT_TRUE(viewer.waitForWindow());
+    server.kill();
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_NE(viewer.exitCode(), 0);
+    EXPECT_NE(viewer.errors(), "");
+}

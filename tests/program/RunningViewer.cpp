@@ -1,0 +1,185 @@
+#include "tests/program/RunningViewer.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+namespace {
+
+constexpr int patience = 10000;
+/** Time between two looks at the screen, in milliseconds. */
+constexpr int lookInterval = 100;
+constexpr int menuBarHeight = 22;
+constexpr int statusBarHeight = 22;
+
+/** Looks at something again and again until it holds. */
+bool waitUntil(const std::function<bool()>& condition) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > patience) {
+            return false;
+        }
+        QThread::msleep(lookInterval);
+    }
+    return true;
+}
+
+bool isSaturated(QRgb pixel) {
+    const QColor color(pixel);
+    constexpr int strong = 150;
+    constexpr int bright = 100;
+    return color.hsvSaturation() > strong && color.value() > bright;
+}
+
+int saturatedPixels(const QImage& image) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += isSaturated(image.pixel(x, y)) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+RunningViewer::RunningViewer(QSize windowSize)
+    : display(qEnvironmentVariable("DISPLAY"))
+    , size(windowSize) {
+    QDir(home.path()).mkpath("Trolltech");
+    QFile settings(home.filePath("Trolltech/MDI Viewer.conf"));
+    settings.open(QIODevice::WriteOnly);
+    settings.write(QString("[General]\npos=@Point(0 0)\nsize=@Size(%1 %2)\n")
+                       .arg(size.width())
+                       .arg(size.height())
+                       .toUtf8());
+    settings.close();
+    start();
+}
+
+RunningViewer::RunningViewer(const QString& otherDisplay)
+    : display(otherDisplay) {
+    start();
+}
+
+RunningViewer::~RunningViewer() {
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+void RunningViewer::start() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", home.path());
+    environment.insert("XDG_RUNTIME_DIR", home.path());
+    environment.insert("DISPLAY", display);
+    process.setProcessEnvironment(environment);
+    process.start(TORVANE_PROGRAM, QStringList());
+    process.waitForStarted();
+}
+
+QRect RunningViewer::quarter(int column, int row) const {
+    const QSize half(size.width() / 2, (size.height() - menuBarHeight - statusBarHeight) / 2);
+    // The drawn part of a view lies within its frame's title, wheels and buttons.
+    constexpr QMargins decoration(36, 26, 36, 40);
+    return QRect(QPoint(column * half.width(), menuBarHeight + row * half.height()), half)
+        .marginsRemoved(decoration);
+}
+
+QRect RunningViewer::statusBar() const {
+    return {0, size.height() - statusBarHeight, size.width(), statusBarHeight};
+}
+
+bool RunningViewer::xdotool(const QStringList& arguments) {
+    return QProcess::execute("xdotool", arguments) == 0;
+}
+
+bool RunningViewer::waitForWindowFoundBy(const QStringList& criterion) const {
+    return waitUntil([&] {
+        QProcess search;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DISPLAY", display);
+        search.setProcessEnvironment(environment);
+        search.start("xdotool", QStringList{"search", "--onlyvisible"} + criterion);
+        search.waitForFinished();
+        return search.exitCode() == 0;
+    });
+}
+
+bool RunningViewer::waitForWindow() const {
+    return waitForWindowFoundBy({"--name", "Visualisation of Torvane"});
+}
+
+bool RunningViewer::waitForAnyWindow() const {
+    return waitForWindowFoundBy({"--class", "torvane"});
+}
+
+bool RunningViewer::waitUntilAllViewsAreDrawn() {
+    constexpr int enough = 100;
+    return waitForWindow() && waitUntil([&] {
+               const QImage image = screen();
+               return saturatedPixels(image.copy(uView())) > enough &&
+                      saturatedPixels(image.copy(xView())) > enough &&
+                      saturatedPixels(image.copy(mView())) > enough &&
+                      saturatedPixels(image.copy(helixView())) > enough;
+           });
+}
+
+void RunningViewer::click(int button, QPoint position) const {
+    xdotool({"mousemove", "--sync", QString::number(position.x()), QString::number(position.y())});
+    xdotool({"click", QString::number(button)});
+}
+
+void RunningViewer::key(const QString& name) const {
+    xdotool({"key", name});
+}
+
+QImage RunningViewer::screen() const {
+    const QString file = home.filePath("screen.png");
+    QProcess::execute("import", {"-window", "root", file});
+    return QImage(file).convertToFormat(QImage::Format_RGB32);
+}
+
+bool RunningViewer::waitUntilChanged(const QRect& part, const QImage& before) const {
+    QImage last;
+    return waitUntil([&] {
+        const QImage now = screen(part);
+        const bool atRest = now == last;
+        last = now;
+        return atRest && now != before;
+    });
+}
+
+bool RunningViewer::waitUntilLike(const QRect& part, const QImage& picture) const {
+    return waitUntil([&] { return screen(part) == picture; });
+}
+
+QPoint RunningViewer::surfaceIn(const QRect& view) const {
+    const QImage image = screen(view);
+    for (int y = image.height() / 3; y < image.height(); y += 3) {
+        for (int x = image.width() / 3; x < image.width(); x += 3) {
+            const QRect around(x - 3, y - 3, 7, 7);
+            if (saturatedPixels(image.copy(around)) == around.width() * around.height()) {
+                return view.topLeft() + QPoint(x, y);
+            }
+        }
+    }
+    return {};
+}
+
+bool RunningViewer::waitForEnd() {
+    return process.waitForFinished(patience);
+}
+
+QString RunningViewer::errors() {
+    return process.readAllStandardError();
+}
+
+QString RunningViewer::storedSettings() const {
+    QFile settings(home.filePath("Trolltech/MDI Viewer.conf"));
+    settings.open(QIODevice::ReadOnly);
+    return settings.readAll();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QImage>
+#include <QProcess>
+#include <QRect>
+#include <QTemporaryDir>
+#include <functional>
+
+/** The real program on the display, driven from outside: by xdotool, seen by screenshots. */
+class RunningViewer {
+public:
+    /** Starts the program with its window at the screen's corner, all four views tiled. */
+    explicit RunningViewer(QSize size = QSize(1000, 800));
+    /** Starts the program on another display, without stored settings. */
+    explicit RunningViewer(const QString& display);
+    ~RunningViewer();
+    RunningViewer(const RunningViewer&) = delete;
+    RunningViewer& operator=(const RunningViewer&) = delete;
+
+    // Where the four views are on the screen, after tiling.
+    QRect helixView() const { return quarter(0, 0); }
+    QRect mView() const { return quarter(1, 0); }
+    QRect xView() const { return quarter(0, 1); }
+    QRect uView() const { return quarter(1, 1); }
+    QRect statusBar() const;
+
+    /** Waits until the main window is on the screen. */
+    bool waitForWindow() const;
+    /** Waits until any window of the program is on the screen: the splash comes first. */
+    bool waitForAnyWindow() const;
+    bool waitUntilAllViewsAreDrawn();
+
+    /** Runs xdotool with arguments; false when it fails. */
+    static bool xdotool(const QStringList& arguments);
+    void click(int button, QPoint position) const;
+    void key(const QString& name) const;
+
+    QImage screen() const;
+    QImage screen(const QRect& part) const { return screen().copy(part); }
+    /** Waits until a part of the screen differs from a picture and is at rest. */
+    bool waitUntilChanged(const QRect& part, const QImage& before) const;
+    /** Waits until a part of the screen is like a picture again. */
+    bool waitUntilLike(const QRect& part, const QImage& picture) const;
+
+    /** A place in a view where the surface is seen: a saturated pixel near the middle. */
+    QPoint surfaceIn(const QRect& view) const;
+
+    void terminate() { process.terminate(); }
+    bool waitForEnd();
+    int exitCode() const { return process.exitCode(); }
+    bool crashed() const { return process.exitStatus() != QProcess::NormalExit; }
+    /** What the program has written to standard error. */
+    QString errors();
+    /** The text of the settings file, empty when there is none. */
+    QString storedSettings() const;
+
+private:
+    QRect quarter(int column, int row) const;
+    void start();
+    bool waitForWindowFoundBy(const QStringList& criterion) const;
+
+    QTemporaryDir home;
+    QString display;
+    QSize size;
+    QProcess process;
+};
