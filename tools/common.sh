@@ -1,0 +1,52 @@
+#!/bin/bash
+# What ./run, ./test and .ci/run share; to be sourced.
+# shellcheck disable=SC2034 # the variables are used where this is sourced
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+viewer_packages=(
+    libcoin-dev libsoqt520-dev qtbase5-dev libqt5opengl5-dev libboost-dev cmake ninja-build g++)
+virtual_display_packages=(
+    xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
+test_packages=(
+    libgtest-dev libbenchmark-dev ghostscript locales-all valgrind)
+check_packages=(clang-format clang-tidy git)
+coverage_packages=(gcovr)
+
+screen="-screen 0 1280x1024x24"
+
+fail() {
+    echo "$1" >&2
+    exit 1
+}
+
+# Installs those of the given packages that are missing; asks for nothing when all are there.
+install_missing() {
+    local missing
+    mapfile -t missing < <(comm -13 \
+        <(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+            sed -n 's/ installed$//p' | sort) \
+        <(printf '%s\n' "$@" | sort))
+    if [[ ${#missing[@]} -eq 0 ]]; then
+        return
+    fi
+    local as_root=()
+    if [[ $EUID -ne 0 ]]; then
+        command -v sudo >/dev/null ||
+            fail "These packages are missing, and neither root nor sudo is at hand: ${missing[*]}"
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    # Without a terminal nothing can be answered.
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures a preset where that was not done yet, and builds its targets.
+build() {
+    local preset=$1 folder=$2
+    shift 2
+    [[ -f $folder/build.ninja ]] || cmake --preset "$preset"
+    cmake --build --preset "$preset" "$@"
+}
