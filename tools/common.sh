@@ -13,7 +13,9 @@ test_packages=(
 check_packages=(clang-format clang-tidy git)
 coverage_packages=(gcovr)
 
-screen="-screen 0 1280x1024x24"
+# Without -noreset the server starts anew whenever its last client leaves, and a program that starts
+# just then does not get a window.
+screen="-screen 0 1280x1024x24 -noreset"
 
 fail() {
     echo "$1" >&2

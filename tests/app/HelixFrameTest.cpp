@@ -25,7 +25,7 @@ public:
                 return coordinates->point[0];
             }
         }
-        return {};
+        return SbVec3f(0, 0, 0);
     }
     static int pointCount(const SoSeparator& part) {
         for (int i = 0; i < part.getNumChildren(); ++i) {
