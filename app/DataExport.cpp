@@ -3,8 +3,11 @@
 #include "helix/Helix.h"
 #include "hyperboloid/Hyperboloid.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -12,21 +15,45 @@
 namespace {
 
 constexpr int digitsAfterPoint = 10;
-/** Room for the longest double in fixed notation: 309 digits, sign, point and decimals. */
-constexpr std::size_t longestNumber = 330;
+constexpr std::uint64_t unitsPerOne = 10'000'000'000;
+/** Bits of a float's mantissa; from 2 to this power on a float is a whole number. */
+constexpr int mantissaBits = 24;
+/** Room for the longest float in fixed notation: 39 digits, sign, point and decimals. */
+constexpr std::size_t longestNumber = 64;
+
+/**
+ * A float below 2^24 in units of the last decimal, exactly rounded, ties to even.
+ *
+ * |value| = mantissa / 2^shift, so the units are mantissa * 10^10 / 2^shift, and the product has
+ * less than 24 + 34 bits.
+ */
+std::uint64_t decimalUnits(float value) {
+    int exponent = 0;
+    const float fraction = std::frexp(std::fabs(value), &exponent);
+    const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, mantissaBits));
+    // Beyond this shift nothing is left of the product anyway.
+    constexpr int largestShift = 63;
+    const int shift = std::min(mantissaBits - exponent, largestShift);
+    const std::uint64_t product = mantissa * unitsPerOne;
+    const std::uint64_t units = product >> shift;
+    const std::uint64_t rest = product - (units << shift);
+    const std::uint64_t half = (std::uint64_t{1} << shift) / 2;
+    const bool roundsUp = rest > half || (rest == half && rest > 0 && units % 2 == 1);
+    return roundsUp ? units + 1 : units;
+}
 
 /** Collects the text of one file, which then goes to the stream in one piece. */
 class TextBuilder {
 public:
     void line(std::string_view content = {}) { text.append(content).push_back('\n'); }
 
-    void parameter(std::string_view name, double value) {
+    void parameter(std::string_view name, float value) {
         text.append(name).append(" = ");
         number(value);
         text.push_back('\n');
     }
 
-    void point(double x, double y, double z) {
+    void point(float x, float y, float z) {
         number(x);
         text.append(separator);
         number(y);
@@ -42,10 +69,26 @@ public:
 private:
     static constexpr std::string_view separator = "    ";
 
-    void number(double value) {
+    void number(float value) {
         std::array<char, longestNumber> digits;
-        const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                                std::chars_format::fixed, digitsAfterPoint);
+        char* end = digits.data();
+        char* const limit = end + digits.size();
+        if (std::fabs(value) < std::ldexp(1.0F, mantissaBits)) {
+            const std::uint64_t units = decimalUnits(value);
+            if (std::signbit(value)) {
+                *end++ = '-';
+            }
+            end = std::to_chars(end, limit, units / unitsPerOne).ptr;
+            // A leading one keeps the decimals' zeros; the point takes its place.
+            char* const point = end;
+            end = std::to_chars(end, limit, unitsPerOne + units % unitsPerOne).ptr;
+            *point = '.';
+        } else {
+            // Whole numbers, infinities and NaN, as a stream writes them.
+            end = std::to_chars(end, limit, static_cast<double>(value), std::chars_format::fixed,
+                                digitsAfterPoint)
+                      .ptr;
+        }
         text.append(digits.data(), end);
     }
 

@@ -136,26 +136,28 @@ void Helix::updateLineVertexCount() {
     nbLineVertices = truncatedCount(static_cast<float>(precisionLine) * nTurns);
 }
 
-Helix::Direction Helix::normalAt(float theta) const {
-    return {-std::cos(theta), -std::sin(theta), 0};
+Helix::Turn::Turn(float angle)
+    : cosine(std::cos(angle))
+    , sine(std::sin(angle)) {}
+
+Helix::Direction Helix::normalAt(const Turn& theta) {
+    return {-theta.cosine, -theta.sine, 0};
 }
 
-Helix::Direction Helix::binormalAt(float theta) const {
-    return {pitch * omega * std::sin(theta), -pitch * omega * std::cos(theta), radius * omega};
+Helix::Direction Helix::binormalAt(const Turn& theta) const {
+    return {pitch * omega * theta.sine, -pitch * omega * theta.cosine, radius * omega};
 }
 
-Helix::Direction Helix::ribbonDirection(const Direction& v, const Direction& b) const {
-    const double alongNormal = std::cos(phi);
-    const double alongBinormal = std::sin(phi);
+Helix::Direction Helix::ribbonDirection(const Turn& turn, const Direction& v, const Direction& b) {
     Direction direction;
     for (std::size_t c = 0; c < 3; ++c) {
-        direction[c] = alongNormal * v[c] + alongBinormal * b[c];
+        direction[c] = turn.cosine * v[c] + turn.sine * b[c];
     }
     return direction;
 }
 
-Helix::Point Helix::lineVertexAt(float s, float theta) const {
-    return {radius * std::cos(theta), radius * std::sin(theta),
+Helix::Point Helix::lineVertexAt(float s, const Turn& theta) const {
+    return {radius * theta.cosine, radius * theta.sine,
             static_cast<float>(pitch * omega * s - pi * nTurns * pitch)};
 }
 
@@ -168,23 +170,24 @@ Helix::Point Helix::ribbonEdge(const Point& center, const Direction& d) const {
 }
 
 Helix::RingOffset Helix::ringOffset(float angle) const {
-    return {tubeR * std::cos(angle), tubeR * std::sin(angle)};
+    const Turn turn(angle);
+    return {tubeR * turn.cosine, tubeR * turn.sine};
 }
 
 Vecteur Helix::get_v(float s) const {
-    return toVecteur(normalAt(omega * s));
+    return toVecteur(normalAt(Turn(omega * s)));
 }
 
 Vecteur Helix::get_b(float s) const {
-    return toVecteur(binormalAt(omega * s));
+    return toVecteur(binormalAt(Turn(omega * s)));
 }
 
 Vecteur Helix::d1_from_v_b(Vecteur v, Vecteur b) const {
-    return toVecteur(ribbonDirection(toDirection(v), toDirection(b)));
+    return toVecteur(ribbonDirection(Turn(phi), toDirection(v), toDirection(b)));
 }
 
 void Helix::computePositionForParams(float const& s, float (&out)[3]) const {
-    store(lineVertexAt(s, omega * s), out);
+    store(lineVertexAt(s, Turn(omega * s)), out);
 }
 
 void Helix::computePositionForParams(float (&center)[3], Vecteur v, Vecteur b, float (&out)[3],
@@ -272,9 +275,11 @@ void Helix::generatePoints(bool line, bool tube, bool ribbon) {
         init_tables(true, true, true);
     }
     const std::vector<RingOffset> ring = tube ? ringOffsets() : std::vector<RingOffset>();
+    const Turn ribbonTurn(phi);
+    const Direction nowhere{0, 0, 0};
     for (unsigned int i = 0; i < nbLineVertices; ++i) {
         const float s = arcLengthOfVertex(i);
-        const float theta = omega * s;
+        const Turn theta(omega * s);
         const Direction v = normalAt(theta);
         const Direction b = binormalAt(theta);
         if (line) {
@@ -295,8 +300,8 @@ void Helix::generatePoints(bool line, bool tube, bool ribbon) {
             }
         }
         if (ribbon) {
-            ribbonVertices[2 * i] = center;
-            ribbonVertices[2 * i + 1] = ribbonEdge(center, ribbonDirection(v, b));
+            ribbonVertices[2 * i] = ribbonEdge(center, nowhere);
+            ribbonVertices[2 * i + 1] = ribbonEdge(center, ribbonDirection(ribbonTurn, v, b));
             ribbonColors[2 * i] = color;
             ribbonColors[2 * i + 1] = color;
         }

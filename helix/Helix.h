@@ -148,6 +148,12 @@ public:
 private:
     using Point = std::array<float, 3>;
     using Direction = std::array<double, 3>;
+    /** Cosine and sine of an angle. */
+    struct Turn {
+        explicit Turn(float angle);
+        float cosine;
+        float sine;
+    };
     /** The two factors of a tube point's directions: tubeR cos angle, tubeR sin angle. */
     struct RingOffset {
         float alongNormal;
@@ -159,10 +165,10 @@ private:
     float arcLengthOfVertex(unsigned int i) const;
     std::vector<RingOffset> ringOffsets() const;
     RingOffset ringOffset(float angle) const;
-    Direction normalAt(float theta) const;
-    Direction binormalAt(float theta) const;
-    Direction ribbonDirection(const Direction& v, const Direction& b) const;
-    Point lineVertexAt(float s, float theta) const;
+    static Direction normalAt(const Turn& theta);
+    Direction binormalAt(const Turn& theta) const;
+    static Direction ribbonDirection(const Turn& turn, const Direction& v, const Direction& b);
+    Point lineVertexAt(float s, const Turn& theta) const;
     Point ribbonEdge(const Point& center, const Direction& d) const;
 
     float radius = 6.0F;

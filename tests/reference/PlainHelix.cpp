@@ -79,6 +79,26 @@ Vecteur PlainHelix::d1_from_v_b(Vecteur v, Vecteur b) {
     return v * static_cast<double>(cosf(phi)) + b * static_cast<double>(sinf(phi));
 }
 
+void PlainHelix::computePositionForParams(const std::array<float, 3>& center, Vecteur v, Vecteur b,
+                                          std::array<float, 3>& out, float angle) {
+    for (int c = 0; c < 3; ++c) {
+        const auto component = static_cast<std::size_t>(c);
+        out[component] = static_cast<float>(
+            static_cast<double>(center[component]) +
+            static_cast<double>(tubeR * cosf(angle)) * v.GetCoord(c) +
+            static_cast<double>(tubeR * sinf(angle)) * b.GetCoord(c));
+    }
+}
+
+void PlainHelix::computeRibbon(std::array<float, 3>& out, const std::array<float, 3>& center,
+                               Vecteur d) {
+    for (int c = 0; c < 3; ++c) {
+        const auto component = static_cast<std::size_t>(c);
+        out[component] = static_cast<float>(static_cast<double>(center[component]) +
+                                            static_cast<double>(ribRange) * d.GetCoord(c));
+    }
+}
+
 void PlainHelix::generatePoints(bool line, bool tube, bool ribbon) {
     for (unsigned int i = 0; i < nbLineVertices; ++i) {
         const auto s =
@@ -101,28 +121,15 @@ void PlainHelix::generatePoints(bool line, bool tube, bool ribbon) {
                 const auto angle = static_cast<float>(
                     static_cast<double>(static_cast<float>(j)) * 6.283185307179586 /
                     static_cast<double>(static_cast<float>(precisionTube - 1)));
-                const float alongNormal = tubeR * cosf(angle);
-                const float alongBinormal = tubeR * sinf(angle);
                 const std::size_t k = static_cast<std::size_t>(precisionTube) * i + j;
-                for (int c = 0; c < 3; ++c) {
-                    const auto component = static_cast<std::size_t>(c);
-                    tubeVertices[k][component] =
-                        static_cast<float>(static_cast<double>(lineVertices[i][component]) +
-                                           static_cast<double>(alongNormal) * v.GetCoord(c) +
-                                           static_cast<double>(alongBinormal) * b.GetCoord(c));
-                }
+                computePositionForParams(lineVertices[i], v, b, tubeVertices[k], angle);
                 computeColor(lineVertices[i], tubeColors[k]);
             }
         }
         if (ribbon) {
             const std::size_t k = 2 * static_cast<std::size_t>(i);
-            for (int c = 0; c < 3; ++c) {
-                const auto component = static_cast<std::size_t>(c);
-                ribbonVertices[k][component] = lineVertices[i][component];
-                ribbonVertices[k + 1][component] =
-                    static_cast<float>(static_cast<double>(lineVertices[i][component]) +
-                                       static_cast<double>(ribRange) * d.GetCoord(c));
-            }
+            computeRibbon(ribbonVertices[k], lineVertices[i], Vecteur(0, 0, 0));
+            computeRibbon(ribbonVertices[k + 1], lineVertices[i], d);
             computeColor(lineVertices[i], ribbonColors[k]);
             computeColor(lineVertices[i], ribbonColors[k + 1]);
         }

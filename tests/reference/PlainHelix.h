@@ -43,4 +43,7 @@ private:
     Vecteur get_v(float s);
     Vecteur get_b(float s);
     Vecteur d1_from_v_b(Vecteur v, Vecteur b);
+    void computePositionForParams(const std::array<float, 3>& center, Vecteur v, Vecteur b,
+                                  std::array<float, 3>& out, float angle);
+    void computeRibbon(std::array<float, 3>& out, const std::array<float, 3>& center, Vecteur d);
 };

@@ -1,0 +1,151 @@
+#include "tests/reference/PlainDataExport.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/OpenedWindow.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+/** Types a path into the file dialog and presses its save button. */
+void saveAs(QFileDialog& dialog, const QString& path) {
+    auto* name = dialog.findChild<QLineEdit*>();
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
+}
+
+QByteArray plainText(const Hyperboloid& model) {
+    std::ostringstream text;
+    PlainDataExport::writeHyperboloid(text, model);
+    return QByteArray::fromStdString(text.str());
+}
+
+QByteArray plainText(const HelixFrame& frame) {
+    std::ostringstream text;
+    PlainDataExport::writeHelix(text, frame.getHelix());
+    return QByteArray::fromStdString(text.str());
+}
+
+class Saving : public testing::Test {
+protected:
+    /** Triggers a save action and gives the file dialog a path. */
+    void save(const char* action, const QString& path) {
+        DialogDriver()
+            .then<QFileDialog>([&](QFileDialog& dialog) { saveAs(dialog, path); })
+            .during([&] { opened.action(action).trigger(); });
+    }
+
+    OpenedWindow opened;
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(Saving, EverySpaceIsWrittenInItsOwnCoordinates) {
+    const char* const actions[] = {"saveUAct", "saveXAct", "saveMAct"};
+    for (int space = 0; space < 3; ++space) {
+        const QString path = folder.filePath(QString("space%1.txt").arg(space));
+        save(actions[space], path);
+        EXPECT_EQ(contentOf(path), plainText(opened.hyperboloid(space)));
+    }
+}
+
+TEST_F(Saving, ActiveHelixIsWritten) {
+    opened.activate(opened.firstHelix());
+    const QString path = folder.filePath("helix.txt");
+    save("saveHelixAct", path);
+    EXPECT_EQ(contentOf(path), plainText(opened.firstHelix()));
+}
+
+TEST_F(Saving, DialogAsksForATextFile) {
+    DialogDriver()
+        .then<QFileDialog>([](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.fileMode(), QFileDialog::AnyFile);
+            EXPECT_EQ(dialog.nameFilters(), QStringList("Text (*.txt)"));
+            EXPECT_EQ(dialog.viewMode(), QFileDialog::Detail);
+            EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+            EXPECT_EQ(dialog.defaultSuffix(), "txt");
+            dialog.reject();
+        })
+        .during([&] { opened.action("saveUAct").trigger(); });
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(Saving, NameWithoutSuffixGetsOne) {
+    save("saveUAct", folder.filePath("name"));
+    EXPECT_TRUE(QFile::exists(folder.filePath("name.txt")));
+    EXPECT_FALSE(QFile::exists(folder.filePath("name")));
+}
+
+TEST_F(Saving, NamesMayHoldBlanksAndLettersOfAnyAlphabet) {
+    const QString path = folder.filePath(QString::fromUtf8("Über die Fläche \xCE\xA9.txt"));
+    save("saveXAct", path);
+    EXPECT_EQ(contentOf(path), plainText(opened.hyperboloid(Hyperboloid::XSPACE)));
+}
+
+TEST_F(Saving, SecondTimeReplacesTheFirstContents) {
+    const QString path = folder.filePath("twice.txt");
+    save("saveUAct", path);
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            // The confirmation comes up inside this call and is answered by the next step.
+            saveAs(dialog, path);
+        })
+        .then<QMessageBox>([](QMessageBox& box) {
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+        })
+        .during([&] { opened.action("saveMAct").trigger(); });
+    EXPECT_EQ(contentOf(path), plainText(opened.hyperboloid(Hyperboloid::MSPACE)));
+}
+
+TEST_F(Saving, CancelledDialogWritesNothing) {
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            dialog.findChild<QLineEdit*>()->setText(folder.filePath("never.txt"));
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        })
+        .during([&] { opened.action("saveUAct").trigger(); });
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(Saving, HelixNeedsAHelixFrame) {
+    opened.activate(opened.hyperboloid(0));
+    DialogDriver()
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "Select an Helix Viewer");
+            EXPECT_EQ(box.icon(), QMessageBox::Warning);
+            EXPECT_EQ(box.parent(), nullptr);
+            box.accept();
+        })
+        .during([&] { opened.action("saveHelixAct").trigger(); });
+}
+
+TEST_F(Saving, FileThatCannotBeOpenedIsNotReported) {
+    opened.window().saveIn(folder.filePath("missing/folder/file.txt"), &opened.hyperboloid(0),
+                           true);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST(SavingWithoutDocuments, HelixShowsTheSameWarning) {
+    MainWindow window;
+    DialogDriver()
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "Select an Helix Viewer");
+            box.accept();
+        })
+        .during([&] { window.findChild<QAction*>("saveHelixAct")->trigger(); });
+}
