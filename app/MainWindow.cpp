@@ -24,7 +24,6 @@
 #include <QStatusBar>
 #include <fstream>
 #include <iostream>
-#include <memory>
 
 namespace {
 
@@ -475,14 +474,19 @@ void MainWindow::saveCurrentImage() {
     if (fileName.isEmpty() || !frame) {
         return;
     }
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(
-        std::fopen(QFile::encodeName(fileName).constData(), "w"), std::fclose);
-    if (!file) {
+    std::FILE* file = std::fopen(QFile::encodeName(fileName).constData(), "w");
+    if (file == nullptr) {
         Messages::warn(tr("The file %1 cannot be written.").arg(fileName), this);
         return;
     }
-    const bool written = printToPostScript(frame->getSceneRoot(), file.get(), frame->getViewer(),
-                                           printerDotsPerInch);
+    const bool written =
+        printToPostScript(frame->getSceneRoot(), file, frame->getViewer(), printerDotsPerInch);
+    std::fclose(file);
+    if (!written) {
+        // Half a picture might pass for a whole one.
+        std::cerr << "The image cannot be rendered or written." << std::endl;
+        QFile::remove(fileName);
+    }
     std::cout << "ok? " << written << std::endl;
 }
 

@@ -29,19 +29,7 @@ public:
 
     /** Runs something that opens the dialogs, and expects that every step had its turn. */
     void during(const std::function<void()>& action) {
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [this] {
-            if (next < steps.size()) {
-                // Counted first: the answer may open the next dialog before it returns.
-                const std::size_t current = next++;
-                if (!steps[current]()) {
-                    next = current;
-                }
-            } else {
-                endUnexpectedDialog();
-            }
-        });
-        poll.start(pollInterval);
+        scheduleLook();
         action();
         EXPECT_EQ(next, steps.size()) << "dialogs that did not come up";
     }
@@ -49,6 +37,25 @@ public:
 private:
     static constexpr int pollInterval = 10;
     static constexpr int patienceForUnexpected = 100;
+
+    /** Each look is a timer of its own: an answer may open the next dialog before it returns. */
+    void scheduleLook() {
+        QTimer::singleShot(pollInterval, &life, [this] {
+            scheduleLook();
+            look();
+        });
+    }
+
+    void look() {
+        if (next < steps.size()) {
+            const std::size_t current = next++;
+            if (!steps[current]()) {
+                next = current;
+            }
+        } else {
+            endUnexpectedDialog();
+        }
+    }
 
     /** A dialog that no step asked for would block the test for ever. */
     void endUnexpectedDialog() {
@@ -62,5 +69,7 @@ private:
 
     std::vector<std::function<bool()>> steps;
     std::size_t next = 0;
+    /** No look outlives the driver. */
+    QObject life;
     int unexpected = 0;
 };
