@@ -70,7 +70,7 @@ private:
     static constexpr std::string_view separator = "    ";
 
     void number(float value) {
-        std::array<char, longestNumber> digits;
+        std::array<char, longestNumber> digits{};
         char* end = digits.data();
         char* const limit = end + digits.size();
         if (std::fabs(value) < std::ldexp(1.0F, mantissaBits)) {

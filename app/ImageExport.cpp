@@ -46,7 +46,7 @@ NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root
 
 SbVec2s ImageExport::printSize(const SbVec2s& screenSize, float screenPixelsPerInch,
                                int dotsPerInch) {
-    const auto inPrint = [&](short pixels) {
+    const auto inPrint = [&](float pixels) {
         return static_cast<short>(static_cast<int>(pixels / screenPixelsPerInch) * dotsPerInch);
     };
     return {inPrint(screenSize[0]), inPrint(screenSize[1])};

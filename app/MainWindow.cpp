@@ -73,7 +73,7 @@ MainWindow::MainWindow()
 MainWindow::~MainWindow() {
     // Frames that are still open report to this window when they die: while it is whole.
     disconnect(mdiArea, nullptr, this, nullptr);
-    delete mdiArea;
+    qDeleteAll(mdiArea->subWindowList());
 }
 
 void MainWindow::createActions() {

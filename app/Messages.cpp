@@ -17,7 +17,7 @@ void Messages::selectHelixViewer() {
 
 void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
     QDialog box(parent);
-    // The spelling is the system's own.
+    // On purpose spelt so, and not translated: users know the message by this text.
     auto* text = new QLabel("This condition isn't satysfied:");
     auto* picture = new QLabel;
     picture->setPixmap(QPixmap(picturePath));

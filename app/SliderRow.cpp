@@ -32,5 +32,6 @@ void SliderRow::layOut(QWidget* window, const std::vector<SliderRow>& rows) {
 void SliderRow::tieLifeTo(QWidget* window, const QObject* receiver) {
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setAttribute(Qt::WA_QuitOnClose, false);
-    QObject::connect(receiver, SIGNAL(destroyed()), window, SLOT(deleteLater()));
+    // At once: the main window dies when no event loop is left that could delete later.
+    QObject::connect(receiver, &QObject::destroyed, window, [window] { delete window; });
 }

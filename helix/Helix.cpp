@@ -40,7 +40,7 @@ std::array<float, 3> colorOf(const std::array<float, 3>& point) {
 std::array<float, 3> tubeVertex(const std::array<float, 3>& center, const std::array<double, 3>& v,
                                 const std::array<double, 3>& b, float alongNormal,
                                 float alongBinormal) {
-    std::array<float, 3> vertex;
+    std::array<float, 3> vertex{};
     for (std::size_t c = 0; c < 3; ++c) {
         vertex[c] = static_cast<float>(center[c] + alongNormal * v[c] + alongBinormal * b[c]);
     }
@@ -149,7 +149,7 @@ Helix::Direction Helix::binormalAt(const Turn& theta) const {
 }
 
 Helix::Direction Helix::ribbonDirection(const Turn& turn, const Direction& v, const Direction& b) {
-    Direction direction;
+    Direction direction{};
     for (std::size_t c = 0; c < 3; ++c) {
         direction[c] = turn.cosine * v[c] + turn.sine * b[c];
     }
@@ -162,7 +162,7 @@ Helix::Point Helix::lineVertexAt(float s, const Turn& theta) const {
 }
 
 Helix::Point Helix::ribbonEdge(const Point& center, const Direction& d) const {
-    Point edge;
+    Point edge{};
     for (std::size_t c = 0; c < 3; ++c) {
         edge[c] = static_cast<float>(center[c] + ribRange * d[c]);
     }
@@ -300,10 +300,11 @@ void Helix::generatePoints(bool line, bool tube, bool ribbon) {
             }
         }
         if (ribbon) {
-            ribbonVertices[2 * i] = ribbonEdge(center, nowhere);
-            ribbonVertices[2 * i + 1] = ribbonEdge(center, ribbonDirection(ribbonTurn, v, b));
-            ribbonColors[2 * i] = color;
-            ribbonColors[2 * i + 1] = color;
+            const std::size_t inner = 2 * static_cast<std::size_t>(i);
+            ribbonVertices[inner] = ribbonEdge(center, nowhere);
+            ribbonVertices[inner + 1] = ribbonEdge(center, ribbonDirection(ribbonTurn, v, b));
+            ribbonColors[inner] = color;
+            ribbonColors[inner + 1] = color;
         }
     }
 }

@@ -52,17 +52,17 @@ constexpr int ringCount = 2;
 /** The wall of the axis glyph: a ring at +halfLength, then one at -halfLength; each ring closes. */
 SoCoordinate3* createAxisRings(double halfLength, double radius) {
     constexpr double fullTurn = 6.283185307179586;
-    std::array<float[3], ringCount * pointsPerRing> points;
+    float points[ringCount * pointsPerRing][3];
     for (int ring = 0; ring < ringCount; ++ring) {
         for (int j = 0; j < pointsPerRing; ++j) {
             const double theta = j * fullTurn / (pointsPerRing - 1);
-            float* point = points[static_cast<std::size_t>(ring * pointsPerRing + j)];
+            float* point = points[ring * pointsPerRing + j];
             point[0] = static_cast<float>(radius * std::cos(theta));
             point[1] = static_cast<float>(radius * std::sin(theta));
             point[2] = static_cast<float>(ring == 0 ? halfLength : -halfLength);
         }
     }
-    return SceneNodes::createCoordinates(static_cast<int>(points.size()), points.data());
+    return SceneNodes::createCoordinates(ringCount * pointsPerRing, points);
 }
 
 } // namespace

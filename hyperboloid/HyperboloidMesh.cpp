@@ -43,6 +43,21 @@ HyperboloidMesh::HyperboloidMesh(int rows, int columns) {
     verticesPerColumn = columns;
 }
 
+void HyperboloidMesh::computeBBox(SoAction* action, SbBox3f& box, SbVec3f& center) {
+    const auto* coordinates = SoCoordinateElement::getInstance(action->getState());
+    const SbVec3f* points = coordinates->getArrayPtr3();
+    const int vertexCount = verticesPerRow.getValue() * verticesPerColumn.getValue();
+    box.makeEmpty();
+    for (int vertex = 0; vertex < std::min(vertexCount, coordinates->getNum()); ++vertex) {
+        if (isFinite(points[vertex])) {
+            box.extendBy(points[vertex]);
+        }
+    }
+    if (!box.isEmpty()) {
+        center = box.getCenter();
+    }
+}
+
 void HyperboloidMesh::rayPick(SoRayPickAction* action) {
     if (!shouldRayPick(action)) {
         return;

@@ -9,7 +9,8 @@
  * The library's mesh intersects a ray with every triangle. This one divides the grid into patches
  * with a bounding sphere each, and hands the library only the triangles of patches that the ray
  * comes near, in the library's own order, so that the picked point is the same to the last bit.
- * Triangles with a vertex that is not finite are never hit.
+ * Triangles with a vertex that is not finite are never hit, and such a vertex does not count for
+ * the bounding box.
  *
  * It has no type of its own in the scene library, on purpose: getTypeId() is SoQuadMesh's. It takes
  * its vertices from the coordinates in force, from the first one on; these must not be edited in
@@ -25,17 +26,18 @@ public:
 
 protected:
     ~HyperboloidMesh() override = default;
+    void computeBBox(SoAction* action, SbBox3f& box, SbVec3f& center) override;
 
 private:
     /** Quadrilaterals firstQuad to lastQuad - 1 of the strips firstStrip to lastStrip - 1. */
     struct Patch {
-        int firstStrip;
-        int lastStrip;
-        int firstQuad;
-        int lastQuad;
-        SbVec3f center;
+        int firstStrip = 0;
+        int lastStrip = 0;
+        int firstQuad = 0;
+        int lastQuad = 0;
+        SbVec3f center{0, 0, 0};
         /** Radius of a sphere around the finite vertices. */
-        double radius;
+        double radius = 0;
     };
     /** The patches that share their strips, in the order of their quadrilaterals. */
     using Band = std::vector<Patch>;

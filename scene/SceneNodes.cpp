@@ -1,9 +1,10 @@
 #include "scene/SceneNodes.h"
 
+#include "scene/FiniteSeparator.h"
+
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoQuadMesh.h>
-#include <Inventor/nodes/SoSeparator.h>
 
 namespace {
 
@@ -17,7 +18,7 @@ void setTriples(Field& field, int count, const float (*values)[3]) {
 } // namespace
 
 SoSeparator* SceneNodes::createSeparator(const char* name) {
-    auto* separator = new SoSeparator;
+    auto* separator = new FiniteSeparator;
     separator->setName(name);
     return separator;
 }

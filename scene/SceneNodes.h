@@ -24,7 +24,7 @@ using NodePointer = boost::intrusive_ptr<Node>;
  */
 namespace SceneNodes {
 
-/** A separator that bears the given scene name. */
+/** A separator that bears the given scene name; what is not finite in it does no harm outside. */
 SoSeparator* createSeparator(const char* name);
 
 /** A material whose ambient, diffuse and specular colours are all the one given colour. */

@@ -83,10 +83,10 @@ void PlainHelix::computePositionForParams(const std::array<float, 3>& center, Ve
                                           std::array<float, 3>& out, float angle) {
     for (int c = 0; c < 3; ++c) {
         const auto component = static_cast<std::size_t>(c);
-        out[component] = static_cast<float>(
-            static_cast<double>(center[component]) +
-            static_cast<double>(tubeR * cosf(angle)) * v.GetCoord(c) +
-            static_cast<double>(tubeR * sinf(angle)) * b.GetCoord(c));
+        out[component] =
+            static_cast<float>(static_cast<double>(center[component]) +
+                               static_cast<double>(tubeR * cosf(angle)) * v.GetCoord(c) +
+                               static_cast<double>(tubeR * sinf(angle)) * b.GetCoord(c));
     }
 }
 

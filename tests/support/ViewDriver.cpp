@@ -78,8 +78,8 @@ bool ViewDriver::isDrawn() const {
     int covered = 0;
     for (int y = 0; y < height; ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        covered += static_cast<int>(std::count_if(
-            line, line + width, [&](QRgb pixel) { return pixel != background; }));
+        covered += static_cast<int>(
+            std::count_if(line, line + width, [&](QRgb pixel) { return pixel != background; }));
     }
     return covered > smallestCover;
 }

@@ -1,0 +1,33 @@
+#include "scene/FiniteSeparator.h"
+
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/actions/SoRayPickAction.h>
+#include <cmath>
+
+namespace {
+
+bool isFinite(const SbVec3f& point) {
+    return std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
+}
+
+bool isFinite(const SbBox3f& box) {
+    return isFinite(box.getMin()) && isFinite(box.getMax());
+}
+
+} // namespace
+
+void FiniteSeparator::getBoundingBox(SoGetBoundingBoxAction* action) {
+    const SbXfBox3f withoutContents = action->getXfBoundingBox();
+    SoSeparator::getBoundingBox(action);
+    if (!isFinite(action->getBoundingBox())) {
+        action->getXfBoundingBox() = withoutContents;
+    }
+}
+
+void FiniteSeparator::rayPick(SoRayPickAction* action) {
+    SoGetBoundingBoxAction contents(action->getViewportRegion());
+    contents.apply(this);
+    if (!contents.getBoundingBox().isEmpty()) {
+        SoSeparator::rayPick(action);
+    }
+}
