@@ -48,12 +48,10 @@ SoQtGeneralViewerFrame* frameIn(const QMdiSubWindow* subWindow) {
 
 MainWindow::MainWindow()
     : mdiArea(new QMdiArea)
-    , windowMapper(new QSignalMapper(this)) {
-    // Two frames that are never shown: they take the numbers 0 and 1, so that the first visible
-    // frame is "Viewer 2" and closeAllSubWindows() never meets number 0. They die with the
-    // application object, like every parentless widget.
-    currentFrame = new SoQtGeneralViewerFrame(true, nullptr);
-    previousFrame = new SoQtGeneralViewerFrame(true, nullptr);
+    , windowMapper(new QSignalMapper(this))
+    , placeholders{{{true, nullptr}, {true, nullptr}}} {
+    currentFrame = &placeholders[0];
+    previousFrame = &placeholders[1];
 
     mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);

@@ -3,6 +3,7 @@
 #include "app/Actions.h"
 #include "app/Menus.h"
 #include "viewer/FrameOwner.h"
+#include "viewer/SoQtGeneralViewerFrame.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -17,7 +18,6 @@ class QMdiSubWindow;
 class QSignalMapper;
 class SoNode;
 class SoQtExaminerViewer;
-class SoQtGeneralViewerFrame;
 
 /**
  * The program's one window: a menu bar, a document area with a sub-window per frame, a status bar.
@@ -128,6 +128,12 @@ private:
     Menus menus;
     Actions actions;
     std::array<QPointer<HyperboloidFrame>, 3> hyperboloidFrames;
+    /**
+     * Two frames that are never shown. They take the numbers 0 and 1, so that the first visible
+     * frame is "Viewer 2" and closeAllSubWindows() never meets number 0, and the bookkeeping of the
+     * active frame has two frames to compare from the start.
+     */
+    std::array<SoQtGeneralViewerFrame, 2> placeholders;
     QPointer<SoQtGeneralViewerFrame> currentFrame;
     QPointer<SoQtGeneralViewerFrame> previousFrame;
     int helixCount = 0;
