@@ -52,6 +52,7 @@ void SoQtGeneralViewer::redraw() {
     if (window == nullptr || !window->isExposed()) {
         return;
     }
+    fitIntoParent();
     const SbVec2s size = getViewportRegion().getWindowSize();
     if (size == presentedSize) {
         SoQtExaminerViewer::redraw();
@@ -61,6 +62,14 @@ void SoQtGeneralViewer::redraw() {
     presentEmptyFrame();
     // The toolkit paints the widget after a change of size anyway: the scene is drawn with that.
     getGLWidget()->update();
+}
+
+void SoQtGeneralViewer::fitIntoParent() {
+    QWidget* widget = getGLWidget();
+    const QRect room = widget->parentWidget()->contentsRect();
+    if (widget->width() > room.width() || widget->height() > room.height()) {
+        widget->setGeometry(room);
+    }
 }
 
 void SoQtGeneralViewer::presentEmptyFrame() {

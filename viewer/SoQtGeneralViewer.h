@@ -45,6 +45,9 @@ private:
      */
     void presentEmptyFrame();
 
+    /** Under the toolkit's scaling SoQt makes the OpenGL widget larger than the room it has. */
+    void fitIntoParent();
+
     SoQtGeneralViewerFrame* frame;
     SbVec2s presentedSize{0, 0};
 };

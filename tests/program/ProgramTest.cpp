@@ -38,6 +38,15 @@ TEST(Program, ShowsFourDrawnViewsWithoutAnyInteraction) {
     EXPECT_TRUE(viewer.waitUntilAllViewsAreDrawn());
 }
 
+TEST(Program, ViewIsDrawnInItsPlaceUnderTheUsersScaling) {
+    qputenv("QT_SCALE_FACTOR", "2");
+    RunningViewer viewer(QSize(600, 480));
+    qunsetenv("QT_SCALE_FACTOR");
+    ASSERT_TRUE(viewer.waitForWindow());
+    // The helix is in front; only this view has room.
+    EXPECT_TRUE(viewer.waitUntilColoured(QRect(80, 90, 700, 550)));
+}
+
 TEST(Program, RightButtonOnTheSurfaceMovesTheSphereEverywhere) {
     const TiedViewer viewer;
     expectMovesEverywhere(viewer, [&] { viewer.click(3, viewer.surfaceIn(viewer.uView())); });

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int patience = 10000;
+constexpr int patience = 30000;
 /** Time between two looks at the screen, in milliseconds. */
 constexpr int lookInterval = 100;
 constexpr int menuBarHeight = 22;
@@ -117,15 +117,14 @@ bool RunningViewer::waitForAnyWindow() const {
     return waitForWindowFoundBy({"--class", "torvane"});
 }
 
-bool RunningViewer::waitUntilAllViewsAreDrawn() {
+bool RunningViewer::waitUntilColoured(const QRect& part) const {
     constexpr int enough = 100;
-    return waitForWindow() && waitUntil([&] {
-               const QImage image = screen();
-               return saturatedPixels(image.copy(uView())) > enough &&
-                      saturatedPixels(image.copy(xView())) > enough &&
-                      saturatedPixels(image.copy(mView())) > enough &&
-                      saturatedPixels(image.copy(helixView())) > enough;
-           });
+    return waitUntil([&] { return saturatedPixels(screen(part)) > enough; });
+}
+
+bool RunningViewer::waitUntilAllViewsAreDrawn() const {
+    return waitForWindow() && waitUntilColoured(uView()) && waitUntilColoured(xView()) &&
+           waitUntilColoured(mView()) && waitUntilColoured(helixView());
 }
 
 void RunningViewer::click(int button, QPoint position) const {

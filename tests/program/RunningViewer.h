@@ -28,7 +28,9 @@ public:
     bool waitForWindow() const;
     /** Waits until any window of the program is on the screen: the splash comes first. */
     bool waitForAnyWindow() const;
-    bool waitUntilAllViewsAreDrawn();
+    bool waitUntilAllViewsAreDrawn() const;
+    /** Waits until a part of the screen shows strong colours, as surfaces and helices have. */
+    bool waitUntilColoured(const QRect& part) const;
 
     /** Runs xdotool with arguments; false when it fails. */
     static bool xdotool(const QStringList& arguments);
