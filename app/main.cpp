@@ -29,8 +29,10 @@ int main(int argc, char** argv) {
     QObject::connect(&terminationSignals, SIGNAL(received()), &application, SLOT(quit()));
     terminationSignals.deliver();
     SoQt::mainLoop();
-    // The viewers go before the toolkit: closing does that, and nothing more when it is done.
-    mainWindow->close();
+    // The viewers go before the toolkit, also when something else than closing ended the loop.
+    if (mainWindow->isVisible()) {
+        mainWindow->close();
+    }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     SoQt::done();
     return 0;

@@ -45,10 +45,15 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# Configures a preset where that was not done yet, and builds its targets.
-build() {
-    local preset=$1 folder=$2
-    shift 2
-    [[ -f $folder/build.ninja ]] || cmake --preset "$preset"
-    cmake --build --preset "$preset" "$@"
+# Builds the viewer. Configured for the first time, without the tests, whose packages may be missing.
+build_viewer() {
+    [[ -f build/build.ninja ]] ||
+        cmake --preset release -DTORVANE_TESTS=OFF -DTORVANE_BENCH=OFF
+    cmake --build --preset release --target torvane -- --quiet
+}
+
+# Builds everything that a preset has, tests and benchmarks too.
+build_all() {
+    cmake --preset "$1" -DTORVANE_TESTS=ON -DTORVANE_BENCH=ON
+    cmake --build --preset "$1"
 }
