@@ -37,14 +37,19 @@ std::array<float, 3> colorOf(const std::array<float, 3>& point) {
     return {channel(y * x + z * y), channel(z * x + y * z), channel(x * z + y * x)};
 }
 
-std::array<float, 3> tubeVertex(const std::array<float, 3>& center, const std::array<double, 3>& v,
-                                const std::array<double, 3>& b, float alongNormal,
-                                float alongBinormal) {
+/** center + alongNormal v + alongBinormal b, summed in double from left to right. */
+std::array<float, 3> tubeVertex(const std::array<double, 3>& center, const std::array<double, 3>& v,
+                                const std::array<double, 3>& b, double alongNormal,
+                                double alongBinormal) {
     std::array<float, 3> vertex{};
     for (std::size_t c = 0; c < 3; ++c) {
         vertex[c] = static_cast<float>(center[c] + alongNormal * v[c] + alongBinormal * b[c]);
     }
     return vertex;
+}
+
+std::array<double, 3> widened(const std::array<float, 3>& point) {
+    return {point[0], point[1], point[2]};
 }
 
 Vecteur toVecteur(const std::array<double, 3>& direction) {
@@ -193,7 +198,7 @@ void Helix::computePositionForParams(float const& s, float (&out)[3]) const {
 void Helix::computePositionForParams(float (&center)[3], Vecteur v, Vecteur b, float (&out)[3],
                                      float const& angle) const {
     const RingOffset offset = ringOffset(angle);
-    store(tubeVertex(toPoint(center), toDirection(v), toDirection(b), offset.alongNormal,
+    store(tubeVertex(widened(toPoint(center)), toDirection(v), toDirection(b), offset.alongNormal,
                      offset.alongBinormal),
           out);
 }
@@ -291,10 +296,11 @@ void Helix::generatePoints(bool line, bool tube, bool ribbon) {
             lineColors[i] = color;
         }
         if (tube) {
+            const Direction wideCenter = widened(center);
             std::size_t vertex = static_cast<std::size_t>(precisionTube) * i;
             for (const RingOffset& offset : ring) {
                 tubeVertices[vertex] =
-                    tubeVertex(center, v, b, offset.alongNormal, offset.alongBinormal);
+                    tubeVertex(wideCenter, v, b, offset.alongNormal, offset.alongBinormal);
                 tubeColors[vertex] = color;
                 ++vertex;
             }

@@ -154,10 +154,11 @@ private:
         float cosine;
         float sine;
     };
-    /** The two factors of a tube point's directions: tubeR cos angle, tubeR sin angle. */
+    /** The factors of a tube point's directions, tubeR cos angle and tubeR sin angle: floats,
+     * widened. */
     struct RingOffset {
-        float alongNormal;
-        float alongBinormal;
+        double alongNormal;
+        double alongBinormal;
     };
 
     void updateLineVertexCount();
