@@ -31,13 +31,17 @@ private:
     locale_t previous;
 };
 
-/** The scene under the viewer's camera and headlight, which are not part of the scene itself. */
+/**
+ * The scene under the viewer's headlight and camera, which are not part of the scene itself.
+ *
+ * The light comes before the camera, as in the viewer's own graph: so it turns with the camera.
+ */
 NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root) {
     NodePointer<SoSeparator> picture(new SoSeparator);
-    picture->addChild(viewer.getCamera());
     if (viewer.isHeadlight()) {
         picture->addChild(viewer.getHeadlight());
     }
+    picture->addChild(viewer.getCamera());
     picture->addChild(root);
     return picture;
 }

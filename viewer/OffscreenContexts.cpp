@@ -59,9 +59,14 @@ public:
         }
     }
 
+    /** On failure the previous context is current again: nobody reinstates it then. */
     bool makeCurrent() {
         previous = CurrentContext();
-        return context.makeCurrent(&surface) && (!framebuffer || framebuffer->bind());
+        if (context.makeCurrent(&surface) && (!framebuffer || framebuffer->bind())) {
+            return true;
+        }
+        reinstatePrevious();
+        return false;
     }
 
     void reinstatePrevious() { previous.reinstate(context); }

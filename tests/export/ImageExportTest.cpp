@@ -2,9 +2,12 @@
 
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
+#include "viewer/OffscreenContexts.h"
 #include "viewer/SoQtGeneralViewer.h"
 
+#include <Inventor/C/glue/gl.h>
 #include <Inventor/SoOffscreenRenderer.h>
+#include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QFile>
 #include <QFileDialog>
@@ -26,6 +29,8 @@ constexpr int patchSize = 8;
 // pixel wide in both, so it is finer in print.
 constexpr double filledTolerance = 0.3;
 constexpr double lineTolerance = 0.65;
+/** Surfaces alone differ at their edges only; light from another side shows. */
+constexpr double lightTolerance = 0.1;
 
 /** Mean difference of two pictures of one size in a channel's steps (0 to 255). */
 double meanDifference(const QImage& one, const QImage& other) {
@@ -52,6 +57,18 @@ QImage middle(const QImage& image, int height) {
     const int width = height * 3 / 4;
     return scaled.copy((scaled.width() - width) / 2, 0, width, height)
         .convertToFormat(QImage::Format_RGB32);
+}
+
+/** Turns the camera around the point that it looks at. */
+void lookFrom(SoCamera& camera, const SbRotation& orientation) {
+    const auto ahead = [&] {
+        SbVec3f direction;
+        camera.orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
+        return direction * camera.focalDistance.getValue();
+    };
+    const SbVec3f centre = camera.position.getValue() + ahead();
+    camera.orientation = orientation;
+    camera.position = centre - ahead();
 }
 
 class ImageExportTest : public testing::Test {
@@ -189,6 +206,15 @@ TEST_F(ImageExportTest, PictureFollowsTheTurnedCameraAndThePerspective) {
     expectLikeTheScreen(x, "perspective");
 }
 
+TEST_F(ImageExportTest, HeadlightTurnsWithTheCamera) {
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    for (const float angle : {1.0F, 2.2F, 4.0F}) {
+        lookFrom(*x.getViewer()->getCamera(), SbRotation(SbVec3f(0.3F, 1, 0.1F), angle));
+        x.getViewer()->render();
+        expectLikeTheScreen(x, "turned", lightTolerance);
+    }
+}
+
 TEST_F(ImageExportTest, PictureShowsTransparencyAndBackground) {
     HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
     m.setTransparency(60, true);
@@ -254,6 +280,17 @@ TEST_F(ImageExportTest, FullDiskIsAFailure) {
     EXPECT_FALSE(opened.window().printToPostScript(opened.hyperboloid(0).getSceneRoot(), file,
                                                    opened.hyperboloid(0).getViewer(), printer));
     std::fclose(file);
+}
+
+TEST_F(ImageExportTest, ContextThatCannotBeMadeLeavesTheCurrentOne) {
+    opened.hyperboloid(0).getViewer()->render();
+    const QOpenGLContext* current = QOpenGLContext::currentContext();
+    ASSERT_NE(current, nullptr);
+    OffscreenContexts::install();
+    // No framebuffer is as large as this.
+    constexpr unsigned int tooLarge = 1U << 20;
+    EXPECT_EQ(cc_glglue_context_create_offscreen(tooLarge, tooLarge), nullptr);
+    EXPECT_EQ(QOpenGLContext::currentContext(), current);
 }
 
 TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
