@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -42,6 +43,14 @@ constexpr int brokenQuadric = 2;
 SoQtGeneralViewerFrame* frameIn(const QMdiSubWindow* subWindow) {
     return subWindow == nullptr ? nullptr
                                 : qobject_cast<SoQtGeneralViewerFrame*>(subWindow->widget());
+}
+
+/** Half a picture might pass for a whole one. What is no file of its own, a device say, stays. */
+void removeHalfWritten(const QString& fileName) {
+    const QFileInfo target(fileName);
+    if (target.isFile() && !target.isSymLink()) {
+        QFile::remove(fileName);
+    }
 }
 
 } // namespace
@@ -477,13 +486,13 @@ void MainWindow::saveCurrentImage() {
         Messages::warn(tr("The file %1 cannot be written.").arg(fileName), this);
         return;
     }
-    const bool written =
+    const bool rendered =
         printToPostScript(frame->getSceneRoot(), file, frame->getViewer(), printerDotsPerInch);
-    std::fclose(file);
+    const bool closed = std::fclose(file) == 0;
+    const bool written = rendered && closed;
     if (!written) {
-        // Half a picture might pass for a whole one.
         std::cerr << "The image cannot be rendered or written." << std::endl;
-        QFile::remove(fileName);
+        removeHalfWritten(fileName);
     }
     std::cout << "ok? " << written << std::endl;
 }

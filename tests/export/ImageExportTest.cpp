@@ -1,6 +1,7 @@
 #include "app/ImageExport.h"
 
 #include "tests/support/DialogDriver.h"
+#include "tests/support/FileDialogs.h"
 #include "tests/support/OpenedWindow.h"
 #include "viewer/OffscreenContexts.h"
 #include "viewer/SoQtGeneralViewer.h"
@@ -9,16 +10,17 @@
 #include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <QAbstractButton>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QOpenGLContext>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <clocale>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace {
 
@@ -71,6 +73,27 @@ void lookFrom(SoCamera& camera, const SbRotation& orientation) {
     camera.position = centre - ahead();
 }
 
+/** As long as it lives, no file can grow larger than so many bytes: like a disk that gets full. */
+class LargestFileSize {
+public:
+    explicit LargestFileSize(rlim_t bytes)
+        : previousHandler(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &previous);
+        const rlimit limited{bytes, previous.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    ~LargestFileSize() {
+        setrlimit(RLIMIT_FSIZE, &previous);
+        std::signal(SIGXFSZ, previousHandler);
+    }
+    LargestFileSize(const LargestFileSize&) = delete;
+    LargestFileSize& operator=(const LargestFileSize&) = delete;
+
+private:
+    rlimit previous{};
+    void (*previousHandler)(int);
+};
+
 class ImageExportTest : public testing::Test {
 protected:
     /** Saves a view through the real dialog; returns what the program wrote to standard output. */
@@ -79,11 +102,7 @@ protected:
         opened.activate(frame);
         testing::internal::CaptureStdout();
         DialogDriver()
-            .then<QFileDialog>([&](QFileDialog& dialog) {
-                auto* name = dialog.findChild<QLineEdit*>();
-                name->setText(path);
-                QTest::keyClick(name, Qt::Key_Return);
-            })
+            .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path); })
             .during([&] { opened.action("saveImageAct").trigger(); });
         return testing::internal::GetCapturedStdout();
     }
@@ -282,6 +301,25 @@ TEST_F(ImageExportTest, FullDiskIsAFailure) {
     std::fclose(file);
 }
 
+TEST_F(ImageExportTest, HalfWrittenPictureIsRemoved) {
+    const LargestFileSize limit(10000);
+    EXPECT_EQ(save(opened.hyperboloid(0), path()), "ok? 0\n");
+    EXPECT_FALSE(QFile::exists(path()));
+}
+
+TEST_F(ImageExportTest, WhatIsNoFileOfItsOwnStaysWhenTheExportFails) {
+    ASSERT_TRUE(QFile::link("/dev/full", path()));
+    opened.activate(opened.hyperboloid(0));
+    testing::internal::CaptureStdout();
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path()); })
+        .then<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); })
+        .during([&] { opened.action("saveImageAct").trigger(); });
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "ok? 0\n");
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    EXPECT_TRUE(QFile::exists("/dev/full"));
+}
+
 TEST_F(ImageExportTest, ContextThatCannotBeMadeLeavesTheCurrentOne) {
     opened.hyperboloid(0).getViewer()->render();
     const QOpenGLContext* current = QOpenGLContext::currentContext();
@@ -297,9 +335,7 @@ TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
     testing::internal::CaptureStdout();
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {
-            auto* name = dialog.findChild<QLineEdit*>();
-            name->setText(folder.filePath("missing/view.eps"));
-            QTest::keyClick(name, Qt::Key_Return);
+            FileDialogs::saveAs(dialog, folder.filePath("missing/view.eps"));
         })
         .then<QMessageBox>([](QMessageBox& box) {
             EXPECT_EQ(box.icon(), QMessageBox::Warning);

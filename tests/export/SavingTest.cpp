@@ -1,11 +1,10 @@
 #include "tests/reference/PlainDataExport.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/FileDialogs.h"
 #include "tests/support/OpenedWindow.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -19,13 +18,6 @@ QByteArray contentOf(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return file.readAll();
-}
-
-/** Types a path into the file dialog and presses its save button. */
-void saveAs(QFileDialog& dialog, const QString& path) {
-    auto* name = dialog.findChild<QLineEdit*>();
-    name->setText(path);
-    QTest::keyClick(name, Qt::Key_Return);
 }
 
 QByteArray plainText(const Hyperboloid& model) {
@@ -45,7 +37,7 @@ protected:
     /** Triggers a save action and gives the file dialog a path. */
     void save(const char* action, const QString& path) {
         DialogDriver()
-            .then<QFileDialog>([&](QFileDialog& dialog) { saveAs(dialog, path); })
+            .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path); })
             .during([&] { opened.action(action).trigger(); });
     }
 
@@ -103,7 +95,7 @@ TEST_F(Saving, SecondTimeReplacesTheFirstContents) {
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {
             // The confirmation comes up inside this call and is answered by the next step.
-            saveAs(dialog, path);
+            FileDialogs::saveAs(dialog, path);
         })
         .then<QMessageBox>([](QMessageBox& box) {
             QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
