@@ -23,8 +23,10 @@
 #include <QSettings>
 #include <QSignalMapper>
 #include <QStatusBar>
+#include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 
 namespace {
 
@@ -105,8 +107,10 @@ void MainWindow::createStatusBar() {
 
 void MainWindow::readSettings() {
     const QSettings settings(organisation, application);
-    move(settings.value("pos", defaultPosition).toPoint());
-    resize(settings.value("size", defaultSize).toSize());
+    const QVariant position = settings.value("pos");
+    move(position.type() == QVariant::Point ? position.toPoint() : defaultPosition);
+    const QSize size = settings.value("size").toSize();
+    resize(size.isValid() ? size : defaultSize);
 }
 
 void MainWindow::writeSettings() {
@@ -160,6 +164,9 @@ HelixFrame* MainWindow::createHelix(bool closable) {
 }
 
 void MainWindow::newViewer() {
+    if (!hyperboloidFrames[0]) {
+        return;
+    }
     HelixFrame* helix = createHelix(true);
     helix->show();
     for (const auto& frame : hyperboloidFrames) {
@@ -172,13 +179,18 @@ void MainWindow::newViewer() {
     mdiArea->setActiveSubWindow(mdiArea->subWindowList().constLast());
 }
 
+std::vector<HyperboloidFrame*> MainWindow::openHyperboloids() const {
+    std::vector<HyperboloidFrame*> open;
+    std::copy_if(hyperboloidFrames.begin(), hyperboloidFrames.end(), std::back_inserter(open),
+                 [](const auto& frame) { return !frame.isNull(); });
+    return open;
+}
+
 void MainWindow::SayHypoImDead(SbName name) {
     // On purpose every frame forgets its helix, whichever helix died.
-    for (const auto& frame : hyperboloidFrames) {
-        if (frame) {
-            frame->killSphere(name);
-            frame->PrevHelixDead();
-        }
+    for (HyperboloidFrame* frame : openHyperboloids()) {
+        frame->killSphere(name);
+        frame->PrevHelixDead();
     }
     --helixCount;
     viewerTitleChanged();
@@ -276,10 +288,8 @@ void MainWindow::closeAllSubWindows() {
 void MainWindow::closeEvent(QCloseEvent* event) {
     // Helices first: each one that dies takes its spheres out of the hyperboloid frames.
     mdiArea->closeAllSubWindows();
-    for (const auto& frame : hyperboloidFrames) {
-        if (frame) {
-            frame->setClosableAlone(true);
-        }
+    for (HyperboloidFrame* frame : openHyperboloids()) {
+        frame->setClosableAlone(true);
     }
     mdiArea->closeAllSubWindows();
     if (mdiArea->currentSubWindow() != nullptr) {
@@ -370,7 +380,7 @@ int MainWindow::verify_param(double K1, double K2, double K3, double K13, double
 
 void MainWindow::changeHyperboloidParameters() {
     // Refused values are not kept: each new dialog starts from the model.
-    while (true) {
+    while (hyperboloidFrames[0]) {
         HyperboloidParameterDialog dialog(HyperboloidParameters::of(*hyperboloidFrames[0]), this);
         if (dialog.exec() != QDialog::Accepted) {
             return;
@@ -387,6 +397,10 @@ void MainWindow::changeHyperboloidParameters() {
         }
         Messages::brokenCondition(
             broken == brokenQuadric ? ":/images/err1.png" : ":/images/err2.png", this);
+        if (!isVisible()) {
+            // The program is ending: the window was closed while the message was up.
+            return;
+        }
     }
 }
 
@@ -405,24 +419,27 @@ void MainWindow::refresh_hyperboloids(double K1, double K2, double K3, double K1
 }
 
 void MainWindow::changeHyperboloidTransparency() {
+    if (!hyperboloidFrames[0]) {
+        return;
+    }
     auto* window = new AppearanceWindow(*hyperboloidFrames[0], this);
     window->setVisible(true);
 }
 
 void MainWindow::refreshHyperboloidTransp(int transp) {
-    for (const auto& frame : hyperboloidFrames) {
+    for (HyperboloidFrame* frame : openHyperboloids()) {
         frame->setTransparency(transp, true);
     }
 }
 
 void MainWindow::refreshHyperboloidLight(int light) {
-    for (const auto& frame : hyperboloidFrames) {
+    for (HyperboloidFrame* frame : openHyperboloids()) {
         frame->setLightness(light, true);
     }
 }
 
 void MainWindow::refreshHyperboloidSat(int sat) {
-    for (const auto& frame : hyperboloidFrames) {
+    for (HyperboloidFrame* frame : openHyperboloids()) {
         frame->setSaturation(sat, true);
     }
 }
@@ -451,6 +468,9 @@ void MainWindow::saveMHyperboloidData() {
 }
 
 void MainWindow::saveObjData(SoQtGeneralViewerFrame* obj, bool hypo) {
+    if (obj == nullptr) {
+        return;
+    }
     // The frame may be closed while the user chooses the file.
     const QPointer<SoQtGeneralViewerFrame> frame(obj);
     const QString fileName = Messages::askForFileToSave(

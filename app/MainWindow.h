@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <array>
 #include <cstdio>
+#include <vector>
 
 class HelixFrame;
 class HyperboloidFrame;
@@ -122,6 +123,11 @@ private:
     QMdiSubWindow* findMdiChild(const QString& title);
     SoQtGeneralViewerFrame* activeMdiChild();
     HelixFrame* currentHelix() const;
+    /**
+     * The hyperboloid frames that exist, in the order U, X, M: none before setUpMainViewer(), nor
+     * when the window went on after a helix had refused to be closed with it.
+     */
+    std::vector<HyperboloidFrame*> openHyperboloids() const;
 
     QMdiArea* mdiArea = nullptr;
     QSignalMapper* windowMapper = nullptr;

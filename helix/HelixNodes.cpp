@@ -49,11 +49,15 @@ SoSeparator* createMesh(const char* name, const Helix& helix, const Color& color
         mesh->addChild(SceneNodes::createMaterial(color[0], color[1], color[2]));
     }
     addCoordinates(*mesh, points);
-    const unsigned int verticesPerColumn = helix.getNbLineVertices();
     // The scene library complains about a mesh without a single quadrilateral.
-    if (verticesPerRow > 1 && verticesPerColumn > 1) {
-        mesh->addChild(SceneNodes::createQuadMesh(static_cast<int>(verticesPerRow),
-                                                  static_cast<int>(verticesPerColumn)));
+    if (verticesPerRow < 2) {
+        return mesh;
+    }
+    // As many rows as there are coordinates for: counts may have changed since they were sampled.
+    const int verticesPerColumn = countOf(points) / static_cast<int>(verticesPerRow);
+    if (verticesPerColumn > 1) {
+        mesh->addChild(
+            SceneNodes::createQuadMesh(static_cast<int>(verticesPerRow), verticesPerColumn));
     }
     return mesh;
 }
@@ -65,7 +69,7 @@ SoSeparator* HelixNodes::createLine(const Helix& helix) {
     addVertexColors(*line, helix.getLineColors());
     addCoordinates(*line, helix.getLineVertices());
     auto* polyline = new SoLineSet;
-    polyline->numVertices = static_cast<int>(helix.getNbLineVertices());
+    polyline->numVertices = countOf(helix.getLineVertices());
     line->addChild(polyline);
     return line;
 }

@@ -19,8 +19,11 @@ bool isFinite(const SbBox3f& box) {
 void FiniteSeparator::getBoundingBox(SoGetBoundingBoxAction* action) {
     const SbXfBox3f withoutContents = action->getXfBoundingBox();
     SoSeparator::getBoundingBox(action);
-    if (!isFinite(action->getBoundingBox())) {
+    // A box that swallows its undefined part still leaves an undefined centre.
+    const bool finiteCentre = !action->isCenterSet() || isFinite(action->getCenter());
+    if (!isFinite(action->getBoundingBox()) || !finiteCentre) {
         action->getXfBoundingBox() = withoutContents;
+        action->resetCenter();
     }
 }
 

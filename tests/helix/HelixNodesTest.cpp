@@ -115,6 +115,22 @@ TEST(HelixNodes, LaterChangesOfTheTablesDoNotReachTheNodes) {
     EXPECT_EQ(child<SoCoordinate3>(tube, 2)->point[7], before);
 }
 
+TEST(HelixNodes, MeshesNeverTakeMoreVerticesThanThereAre) {
+    Helix helix;
+    helix.setNTurns(10);
+    helix.setPrecisionTube(100);
+    for (SoSeparator* node : {helix.DrawTube(), helix.DrawRibbon()}) {
+        const Part part(node);
+        const auto& mesh = *child<SoQuadMesh>(part, 3);
+        const int points = child<SoCoordinate3>(part, 2)->point.getNum();
+        EXPECT_GT(points, 0);
+        EXPECT_LE(mesh.verticesPerRow.getValue() * mesh.verticesPerColumn.getValue(), points);
+    }
+    const Part line(helix.DrawLine());
+    EXPECT_EQ(child<SoLineSet>(line, 3)->numVertices[0],
+              child<SoCoordinate3>(line, 2)->point.getNum());
+}
+
 TEST(HelixNodes, EveryCallBuildsNewNodes) {
     const Helix helix;
     EXPECT_NE(Part(helix.DrawTube()).get(), Part(helix.DrawTube()).get());

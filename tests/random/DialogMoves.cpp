@@ -213,7 +213,7 @@ std::string DialogMoves::anyPath(Dice& dice) const {
                                          folder.path().toStdString(),
                                          "/dev/full",
                                          "",
-                                         "*?\"\n"};
+                                         folder.filePath("*?\"\n").toStdString()};
     return dice.oneOf(paths);
 }
 

@@ -151,21 +151,6 @@ void checkHelices(const OpenedWindow& opened) {
     }
 }
 
-void checkMenus(const OpenedWindow& opened) {
-    const bool active = opened.area().activeSubWindow() != nullptr;
-    for (const char* name : {"closeAct", "closeAllAct", "tileAct", "cascadeAct"}) {
-        EXPECT_EQ(opened.action(name).isEnabled(), active) << name;
-    }
-    for (const char* name : {"nextAct", "previousAct"}) {
-        EXPECT_EQ(opened.action(name).isEnabled(), opened.frames().size() >= 2) << name;
-    }
-    for (const char* name :
-         {"newAct", "exitAct", "appearanceAct", "hyperboloidParamsAct", "helixParamsAct",
-          "saveHelixAct", "saveUAct", "saveXAct", "saveMAct", "aboutAct", "aboutQtAct"}) {
-        EXPECT_TRUE(opened.action(name).isEnabled()) << name;
-    }
-}
-
 void checkOpenGl(const SoQtGeneralViewerFrame& frame) {
     auto* widget = static_cast<QGLWidget*>(frame.getViewer()->getGLWidget());
     widget->makeCurrent();
@@ -196,10 +181,31 @@ void checkPicture(SoQtGeneralViewerFrame& frame) {
 
 } // namespace
 
-void Invariants::check(const OpenedWindow& opened) {
+Invariants::Invariants(const OpenedWindow& openedWindow)
+    : opened(openedWindow)
+    , documentActive(opened.area().activeSubWindow() != nullptr) {
+    QObject::connect(&opened.area(), &QMdiArea::subWindowActivated, &life,
+                     [this](const QMdiSubWindow* window) { documentActive = window != nullptr; });
+}
+
+void Invariants::checkMenus() const {
+    for (const char* name : {"closeAct", "closeAllAct", "tileAct", "cascadeAct"}) {
+        EXPECT_EQ(opened.action(name).isEnabled(), documentActive) << name;
+    }
+    for (const char* name : {"nextAct", "previousAct"}) {
+        EXPECT_EQ(opened.action(name).isEnabled(), opened.frames().size() >= 2) << name;
+    }
+    for (const char* name :
+         {"newAct", "exitAct", "appearanceAct", "hyperboloidParamsAct", "helixParamsAct",
+          "saveHelixAct", "saveUAct", "saveXAct", "saveMAct", "aboutAct", "aboutQtAct"}) {
+        EXPECT_TRUE(opened.action(name).isEnabled()) << name;
+    }
+}
+
+void Invariants::check() const {
     checkHyperboloids(opened);
     checkHelices(opened);
-    checkMenus(opened);
+    checkMenus();
     for (SoQtGeneralViewerFrame* frame : opened.frames()) {
         checkOpenGl(*frame);
         checkPicture(*frame);

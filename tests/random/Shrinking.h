@@ -18,7 +18,8 @@ std::vector<Step> without(const std::vector<Step>& steps, std::size_t begin, std
 }
 
 /**
- * Leaves out steps, large pieces first, as long as the rest still fails.
+ * Leaves out steps as long as the rest still fails: first all but the last few, since what fails
+ * has often begun shortly before; then large pieces, then smaller ones.
  *
  * @param steps    a sequence that fails
  * @param fails    whether a sequence fails
@@ -28,6 +29,13 @@ std::vector<Step> without(const std::vector<Step>& steps, std::size_t begin, std
 template <typename Step>
 std::vector<Step> shrink(std::vector<Step> steps,
                          const std::function<bool(const std::vector<Step>&)>& fails, int attempts) {
+    for (std::size_t last = 1; last < steps.size() && attempts > 0; last *= 2) {
+        const std::vector<Step> end = without(steps, 0, steps.size() - last);
+        --attempts;
+        if (fails(end)) {
+            steps = end;
+        }
+    }
     std::size_t piece = std::max<std::size_t>(steps.size() / 2, 1);
     while (attempts > 0 && !steps.empty()) {
         bool shorter = false;

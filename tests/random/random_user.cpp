@@ -1,10 +1,11 @@
 // usage: random_user --seed SEED --moves COUNT
+//        random_user --shrink FILE
 //        random_user --play FILE
 //
 // Lets a random user loose on the real main window. With --seed a process of its own plays the
 // moves, with a log beside them; when it fails, crashes or hangs, the moves are shrunk to few that
-// still fail, and those are left in a file and told. With --play the moves of such a file are made
-// in this process.
+// still fail, and those are left in a file and told. With --shrink the moves come from such a file;
+// with --play they are made in this process.
 
 #include "tests/random/Invariants.h"
 #include "tests/random/RandomUser.h"
@@ -64,6 +65,7 @@ void finishMove() {
 bool play(const MoveSeeds& seeds) {
     const OpenedWindow opened;
     RandomUser user(opened);
+    const Invariants invariants(opened);
     int number = 0;
     for (const std::uint32_t seed : seeds) {
         ++number;
@@ -71,7 +73,7 @@ bool play(const MoveSeeds& seeds) {
         std::cout << number << " ";
         user.play(seed, std::cout);
         finishMove();
-        Invariants::check(opened);
+        invariants.check();
         if (testing::UnitTest::GetInstance()->Failed()) {
             return false;
         }
@@ -121,19 +123,18 @@ std::string lastLines(const std::string& log) {
     return log.size() <= length ? log : log.substr(log.size() - length);
 }
 
-int playAndShrink(std::uint32_t seed, int count) {
-    const std::string path = "random_user_" + std::to_string(seed) + ".moves";
-    MoveSeeds seeds = seedsFor(seed, count);
+/** Plays the moves; when they fail, leaves the few that still do in the file. */
+int playAndShrink(MoveSeeds seeds, const std::string& path) {
     const Outcome outcome = playApart(seeds, path);
     std::cout << lastLines(outcome.log) << std::endl;
     if (outcome.good) {
-        std::cout << "seed " << seed << ": " << count << " moves, nothing failed" << std::endl;
+        std::cout << seeds.size() << " moves, nothing failed" << std::endl;
         QFile::remove(QString::fromStdString(path));
         QFile::remove(QString::fromStdString(path + ".log"));
         return 0;
     }
     seeds.resize(movesStarted(outcome.log));
-    std::cout << "seed " << seed << ": move " << seeds.size() << " failed; shrinking" << std::endl;
+    std::cout << "move " << seeds.size() << " failed; shrinking" << std::endl;
     const auto fails = [&](const MoveSeeds& candidate) {
         return !playApart(candidate, path).good;
     };
@@ -150,6 +151,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.addOptions({{"seed", "Seed of the moves.", "SEED", "1"},
                        {"moves", "Number of moves.", "COUNT", "300"},
+                       {"shrink", "Shrink the failing moves of a file.", "FILE"},
                        {"play", "Make the moves of a file.", "FILE"}});
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
@@ -161,5 +163,11 @@ int main(int argc, char** argv) {
         return play(readSeeds(parser.value("play").toStdString())) ? 0 : 1;
     }
     const QCoreApplication application(argc, argv);
-    return playAndShrink(parser.value("seed").toUInt(), parser.value("moves").toInt());
+    if (parser.isSet("shrink")) {
+        const std::string path = parser.value("shrink").toStdString();
+        return playAndShrink(readSeeds(path), path);
+    }
+    const std::uint32_t seed = parser.value("seed").toUInt();
+    return playAndShrink(seedsFor(seed, parser.value("moves").toInt()),
+                         "random_user_" + std::to_string(seed) + ".moves");
 }

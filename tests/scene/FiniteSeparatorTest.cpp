@@ -85,6 +85,17 @@ TEST_P(FiniteSeparatorWith, PointsThatAreNowhereDoNotSpoilTheirNeighboursBounds)
     }
 }
 
+TEST_P(FiniteSeparatorWith, PointsThatAreNowhereDoNotMoveTheCentre) {
+    const NodePointer<SoSeparator> scene(new SoSeparator);
+    scene->addChild(square(0, 0));
+    SoGetBoundingBoxAction alone(viewport);
+    alone.apply(scene.get());
+    scene->addChild(square(5, GetParam()));
+    SoGetBoundingBoxAction together(viewport);
+    together.apply(scene.get());
+    EXPECT_EQ(together.getCenter(), alone.getCenter());
+}
+
 TEST_P(FiniteSeparatorWith, PointsThatAreNowhereHideNothingFromARay) {
     const NodePointer<SoSeparator> scene(new SoSeparator);
     scene->addChild(square(5, GetParam()));
