@@ -9,6 +9,7 @@
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoShapeHints.h>
 #include <clocale>
 
 namespace {
@@ -32,12 +33,13 @@ private:
 };
 
 /**
- * The scene under the viewer's headlight and camera, which are not part of the scene itself.
+ * The scene under the viewer's lighting and camera, which are not part of the scene itself.
  *
  * The light comes before the camera, as in the viewer's own graph: so it turns with the camera.
  */
 NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root) {
     NodePointer<SoSeparator> picture(new SoSeparator);
+    picture->addChild(SceneNodes::createTwoSidedLighting());
     if (viewer.isHeadlight()) {
         picture->addChild(viewer.getHeadlight());
     }

@@ -5,6 +5,8 @@
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoQuadMesh.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoShapeHints.h>
 
 namespace {
 
@@ -47,4 +49,11 @@ SoQuadMesh* SceneNodes::createQuadMesh(int verticesPerRow, int verticesPerColumn
     mesh->verticesPerRow = verticesPerRow;
     mesh->verticesPerColumn = verticesPerColumn;
     return mesh;
+}
+
+SoShapeHints* SceneNodes::createTwoSidedLighting() {
+    auto* hints = new SoShapeHints;
+    // An ordering without a solid shape: the library then lights both sides and culls neither.
+    hints->vertexOrdering = SoShapeHints::COUNTERCLOCKWISE;
+    return hints;
 }

@@ -6,6 +6,7 @@ class SoCoordinate3;
 class SoMaterial;
 class SoQuadMesh;
 class SoSeparator;
+class SoShapeHints;
 
 /**
  * Owning pointer to a scene node: holds one count of the node's own reference count.
@@ -38,5 +39,11 @@ SoCoordinate3* createCoordinates(int count, const float (*points)[3]);
 
 /** A mesh of quadrilaterals over the coordinates in force, one row of vertices after the other. */
 SoQuadMesh* createQuadMesh(int verticesPerRow, int verticesPerColumn);
+
+/**
+ * Lets OpenGL light both sides of what follows it. The tube and the ribbon of a helix are seen from
+ * either side; without this, a side that the winding turns away from the light stays black.
+ */
+SoShapeHints* createTwoSidedLighting();
 
 } // namespace SceneNodes

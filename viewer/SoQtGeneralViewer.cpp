@@ -1,10 +1,13 @@
 #include "viewer/SoQtGeneralViewer.h"
 
+#include "scene/SceneNodes.h"
 #include "viewer/SoQtGeneralViewerFrame.h"
 
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoShapeHints.h>
 #include <Inventor/system/gl.h>
 #include <QWidget>
 #include <QWindow>
@@ -15,6 +18,12 @@ SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* 
     setCameraType(SoOrthographicCamera::getClassTypeId());
     setPopupMenuEnabled(FALSE);
     setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
+}
+
+void SoQtGeneralViewer::lightBothSides() {
+    // Into the viewer's own graph around the scene, which also holds its headlight and its camera.
+    auto* around = static_cast<SoSeparator*>(getSceneManager()->getSceneGraph());
+    around->insertChild(SceneNodes::createTwoSidedLighting(), 0);
 }
 
 SbBool SoQtGeneralViewer::isSeekMode() const {

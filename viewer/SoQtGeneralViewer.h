@@ -23,6 +23,9 @@ public:
     SoQtGeneralViewer(const SoQtGeneralViewer&) = delete;
     SoQtGeneralViewer& operator=(const SoQtGeneralViewer&) = delete;
 
+    /** Lights both sides of the scene's surfaces; to be called once, when the scene is set. */
+    void lightBothSides();
+
     /** Whether the next click chooses a point to fly to. */
     SbBool isSeekMode() const;
 

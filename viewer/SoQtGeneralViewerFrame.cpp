@@ -121,6 +121,7 @@ void SoQtGeneralViewerFrame::createViewer() {
     const WindowTitleKeeper keeper(window());
     viewer = std::make_unique<SoQtGeneralViewer>(this, title.toLocal8Bit().constData(), 1);
     viewer->setSceneGraph(root.get());
+    viewer->lightBothSides();
     viewer->setFeedbackVisibility(TRUE);
     enableMultisampling();
     viewer->show();

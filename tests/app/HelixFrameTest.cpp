@@ -156,6 +156,28 @@ TEST(HelixFrameTest, SettersWithRedrawGiveThePartsTheirNewSizes) {
     EXPECT_EQ(LoneHelix::pointCount(*lone.ribbon()), 2 * 60);
 }
 
+TEST(HelixFrameTest, TubeIsLitOnTheSideThatIsSeen) {
+    HelixFrame frame(1, 0.5F, 0.25F, 0, 1, 0, 0, true, nullptr);
+    frame.set_ribbon_range(0, false);
+    frame.set_tube_radius(0.3, false);
+    frame.initialize();
+    frame.reDraw(true, true, true);
+    frame.show();
+    EXPECT_TRUE(waitUntil([&] { return ViewDriver(frame).isDrawn(); }));
+    const QImage picture = ViewDriver(frame).grab();
+    int lit = 0;
+    int covered = 0;
+    // The upper left quarter: the axis cross is in the lower right one.
+    for (int y = 0; y < picture.height() / 2; ++y) {
+        for (int x = 0; x < picture.width() / 2; ++x) {
+            covered += picture.pixelColor(x, y).green() > 0 ? 1 : 0;
+            lit += picture.pixelColor(x, y).green() > 100 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(covered, 1000);
+    EXPECT_GT(lit, covered / 2);
+}
+
 TEST(HelixFrameTest, NoTurnsDrawNothingAndTurnsComeBack) {
     LoneHelix lone;
     lone.frame.show();

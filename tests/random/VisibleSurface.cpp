@@ -61,6 +61,12 @@ Grid gridOf(const HelixFrame& frame) {
     return grid;
 }
 
+/** Whether what hides the tube is itself seen: the ribbon of a white tube is black. */
+bool hasBrightRibbon(const Helix& helix) {
+    const auto& [red, green, blue] = helix.getHelixColor();
+    return brightest(1 - red, 1 - green, 1 - blue) > darkest;
+}
+
 /** Where points are seen in pixels; nothing for those that are off what is looked at. */
 class Projection {
 public:
@@ -124,5 +130,6 @@ bool VisibleSurface::isLarge(const SoQtGeneralViewerFrame& frame) {
                visibleArea(gridOf(*hyperboloid), project) > largeArea;
     }
     const auto* helix = dynamic_cast<const HelixFrame*>(&frame);
-    return helix != nullptr && visibleArea(gridOf(*helix), project) > largeArea;
+    return helix != nullptr && hasBrightRibbon(helix->getHelix()) &&
+           visibleArea(gridOf(*helix), project) > largeArea;
 }
