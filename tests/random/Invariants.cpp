@@ -175,7 +175,9 @@ bool isInFront(const QWidget& view) {
 void checkPicture(SoQtGeneralViewerFrame& frame) {
     const ViewDriver view(frame);
     if (isInFront(view.widget()) && VisibleSurface::isLarge(frame)) {
-        EXPECT_TRUE(view.isDrawn()) << "blank: " << frame.windowTitle().toStdString();
+        // What has just come to the front may still wait for the window system's word to paint it.
+        EXPECT_TRUE(waitUntil([&] { return view.isDrawn(); }))
+            << "blank: " << frame.windowTitle().toStdString();
     }
 }
 
