@@ -254,10 +254,10 @@ void Helix::init_tables(bool line, bool tube, bool ribbon) {
     clear(tube, precisionTube * lineCount, tubeVertices, tubeColors);
 }
 
-bool Helix::tablesFit() const {
+void Helix::fitTables() {
     const std::size_t lineCount = nbLineVertices;
-    return lineVertices.size() == lineCount && ribbonVertices.size() == 2 * lineCount &&
-           tubeVertices.size() == precisionTube * lineCount;
+    init_tables(lineVertices.size() != lineCount, tubeVertices.size() != precisionTube * lineCount,
+                ribbonVertices.size() != 2 * lineCount);
 }
 
 float Helix::arcLengthOfVertex(unsigned int i) const {
@@ -275,10 +275,7 @@ std::vector<Helix::RingOffset> Helix::ringOffsets() const {
 }
 
 void Helix::generatePoints(bool line, bool tube, bool ribbon) {
-    if (!tablesFit()) {
-        // The counts were changed without init_tables(): sampling must not run over the tables.
-        init_tables(true, true, true);
-    }
+    fitTables();
     const std::vector<RingOffset> ring = tube ? ringOffsets() : std::vector<RingOffset>();
     const Turn ribbonTurn(phi);
     const Direction nowhere{0, 0, 0};

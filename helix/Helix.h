@@ -162,7 +162,8 @@ private:
     };
 
     void updateLineVertexCount();
-    bool tablesFit() const;
+    /** Counts may have changed without init_tables(): sampling must not run over a table. */
+    void fitTables();
     float arcLengthOfVertex(unsigned int i) const;
     std::vector<RingOffset> ringOffsets() const;
     RingOffset ringOffset(float angle) const;

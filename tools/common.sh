@@ -57,3 +57,25 @@ build_all() {
     cmake --preset "$1" -DTORVANE_TESTS=ON -DTORVANE_BENCH=ON
     cmake --build --preset "$1"
 }
+
+# The tests without windows, one program after the other, under valgrind. Fails with the first that
+# depends on memory that nobody has written.
+memcheck() {
+    local folder=$1
+    shift
+    local program
+    for program in "$folder"/bin/{math,helix,scene,hyperboloid,data_text,resources,shrinking}_test; do
+        echo "memcheck $program"
+        valgrind --quiet --error-exitcode=1 --track-origins=yes "$program" --gtest_brief=1 "$@"
+    done
+}
+
+# Which share of our own lines has run, folder by folder and over all, and which lines have not.
+print_coverage() {
+    local folder=$1 layer
+    local report=(gcovr --root . --object-directory "$folder" --exclude-unreachable-branches)
+    for layer in math helix hyperboloid scene viewer app; do
+        echo "$layer: $("${report[@]}" --filter "$layer/" --print-summary | grep '^lines')"
+    done
+    "${report[@]}" --filter '(math|helix|hyperboloid|scene|viewer|app)/' --print-summary
+}

@@ -194,3 +194,17 @@ TEST(HelixGeometry, CopiesAreIndependent) {
     copy = original;
     EXPECT_EQ(copy.getLineVertices(), original.getLineVertices());
 }
+
+TEST(HelixGeometry, NewRingsGoAlongTheCentreLineThatWasSampledBefore) {
+    Helix helix;
+    const Helix::Table line = helix.getLineVertices();
+    helix.setPrecisionTube(8);
+    helix.generatePoints(false, true, false);
+    EXPECT_EQ(helix.getLineVertices(), line);
+    ASSERT_EQ(helix.getTubeVertices().size(), 8 * line.size());
+    Helix prepared;
+    prepared.setPrecisionTube(8);
+    prepared.init_tables(false, true, false);
+    prepared.generatePoints(false, true, false);
+    EXPECT_EQ(helix.getTubeVertices(), prepared.getTubeVertices());
+}
