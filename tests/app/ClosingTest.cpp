@@ -1,27 +1,30 @@
+#include "app/HyperboloidParameterDialog.h"
+#include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/SliderWindow.h"
 
+#include <QDoubleSpinBox>
 #include <QSettings>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace {
 
-/** Closes the helices in a given order of their ages, stepping a hyperboloid in between. */
-void closeInOrder(const std::vector<int>& order) {
-    const OpenedWindow opened;
+/** Opens helices and closes them in a given order of their ages, stepping the X view in between. */
+void closeInOrder(const OpenedWindow& opened, const std::vector<int>& order) {
     std::vector<QPointer<HelixFrame>> helices;
-    for (std::size_t i = 1; i < order.size(); ++i) {
+    for (std::size_t i = 0; i < order.size(); ++i) {
         opened.action("newAct").trigger();
+        helices.emplace_back(opened.helices().back());
     }
-    for (HelixFrame* helix : opened.helices()) {
-        helices.emplace_back(helix);
-    }
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
     for (const int next : order) {
         HelixFrame& helix = *helices[static_cast<std::size_t>(next)];
-        opened.tie(helix, opened.hyperboloid(Hyperboloid::XSPACE));
-        opened.hyperboloid(Hyperboloid::XSPACE).moveSphere(HyperboloidFrame::DOWN);
+        opened.tie(helix, x);
+        x.moveSphere(HyperboloidFrame::DOWN);
         opened.closeFrame(helix);
-        opened.hyperboloid(Hyperboloid::XSPACE).moveSphere(HyperboloidFrame::DOWN);
+        x.moveSphere(HyperboloidFrame::DOWN);
         opened.activate(opened.hyperboloid(Hyperboloid::USPACE));
         opened.activate(opened.hyperboloid(Hyperboloid::MSPACE));
     }
@@ -32,11 +35,59 @@ void closeInOrder(const std::vector<int>& order) {
 
 } // namespace
 
-TEST(Closing, HelicesGoInAnyOrder) {
-    std::vector<int> order{0, 1, 2};
+class ClosingHelices : public testing::TestWithParam<int> {};
+
+TEST_P(ClosingHelices, GoInEveryOrder) {
+    const OpenedWindow opened;
+    opened.closeFrame(opened.firstHelix());
+    // Drawing is not the point: few views have room.
+    opened.window().resize(300, 200);
+    std::vector<int> order(static_cast<std::size_t>(GetParam()));
+    std::iota(order.begin(), order.end(), 0);
     do {
-        closeInOrder(order);
+        closeInOrder(opened, order);
     } while (std::next_permutation(order.begin(), order.end()));
+}
+
+INSTANTIATE_TEST_SUITE_P(UpToFive, ClosingHelices, testing::Range(0, 6));
+
+TEST(Closing, WindowClosesWithItsDialogOpenAndTheErrorBoxOnScreen) {
+    for (const bool refused : {false, true}) {
+        QSettings("Trolltech", "MDI Viewer").clear();
+        const OpenedWindow opened;
+        opened.action("newAct").trigger();
+        DialogDriver driver;
+        driver.then<HyperboloidParameterDialog>([&](HyperboloidParameterDialog& dialog) {
+            if (refused) {
+                // The first of the moduli, K1, larger than the second.
+                dialog.findChildren<QDoubleSpinBox*>().constFirst()->setValue(50);
+                dialog.accept();
+            } else {
+                opened.window().close();
+                dialog.reject();
+            }
+        });
+        if (refused) {
+            driver.then<QDialog>([&](QDialog& box) {
+                opened.window().close();
+                box.accept();
+            });
+        }
+        driver.during([&] { opened.action("hyperboloidParamsAct").trigger(); });
+        EXPECT_FALSE(opened.window().isVisible());
+        EXPECT_TRUE(QSettings("Trolltech", "MDI Viewer").contains("pos"));
+    }
+}
+
+TEST(Closing, WindowTakesItsSliderWindowsAlong) {
+    auto opened = std::make_unique<OpenedWindow>();
+    opened->activate(opened->firstHelix());
+    const SliderWindow helixWindow(*opened, "helixParamsAct");
+    const SliderWindow appearance(*opened, "appearanceAct");
+    EXPECT_TRUE(opened->window().close());
+    opened.reset();
+    EXPECT_FALSE(helixWindow.isAlive());
+    EXPECT_FALSE(appearance.isAlive());
 }
 
 TEST(Closing, CloseAllClosesOnlyTheHelices) {

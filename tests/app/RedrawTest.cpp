@@ -1,5 +1,6 @@
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/RedrawCounter.h"
+#include "tests/support/SliderWindow.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -41,6 +42,50 @@ TEST(Redraw, KeyStepDrawsEveryViewOnce) {
     CountedWindow counted;
     ViewDriver(counted.opened.hyperboloid(Hyperboloid::USPACE)).key(Qt::Key_Down);
     EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
+}
+
+TEST(Redraw, PickDrawsEveryViewOnce) {
+    CountedWindow counted;
+    HyperboloidFrame& u = counted.opened.hyperboloid(Hyperboloid::USPACE);
+    const ViewDriver view(u);
+    // A vertex in the middle of what is seen of the surface.
+    const int index = static_cast<int>(u.getNumRow()) * 10 + 20;
+    view.click(Qt::RightButton,
+               view.positionOf(
+                   SbVec3f(u.getVertex(index, 0), u.getVertex(index, 1), u.getVertex(index, 2))));
+    EXPECT_NE(counted.opened.firstHelix().getIndex(), 0);
+    EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
+}
+
+TEST(Redraw, PickBesideTheSurfaceDrawsNothing) {
+    CountedWindow counted;
+    ViewDriver(counted.opened.hyperboloid(Hyperboloid::USPACE))
+        .click(Qt::RightButton, QPoint(2, 2));
+    EXPECT_EQ(counted.drawings(), (Counts{0, 0, 0, 0}));
+}
+
+TEST(Redraw, EachMoveOfTheMouseThatTurnsTheCameraDrawsItsViewOnce) {
+    CountedWindow counted;
+    const ViewDriver view(counted.opened.hyperboloid(Hyperboloid::USPACE));
+    QTest::mousePress(&view.widget(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    view.moveDragging(Qt::LeftButton, QPoint(102, 101));
+    counted.drawings();
+    for (const int x : {120, 150, 151}) {
+        view.moveDragging(Qt::LeftButton, QPoint(x, 110));
+        EXPECT_EQ(counted.drawings(), (Counts{1, 0, 0, 0}));
+    }
+    QTest::mouseRelease(&view.widget(), Qt::LeftButton, Qt::NoModifier, QPoint(151, 110));
+}
+
+TEST(Redraw, HelixSliderDrawsTheHelixOnceForEachStep) {
+    CountedWindow counted;
+    counted.opened.activate(counted.opened.firstHelix());
+    const SliderWindow window(counted.opened, "helixParamsAct");
+    counted.drawings();
+    for (int row = 0; row < 5; ++row) {
+        window.slider(row).setValue(window.slider(row).value() + 1);
+        EXPECT_EQ(counted.drawings(), (Counts{0, 0, 0, 1})) << "row " << row;
+    }
 }
 
 TEST(Redraw, HelixParameterDrawsTheHelixOnly) {

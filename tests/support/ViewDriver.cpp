@@ -36,11 +36,14 @@ void ViewDriver::drag(Qt::MouseButton button, QPoint from, QPoint to) const {
     QTest::mousePress(&widget(), button, Qt::NoModifier, from);
     constexpr int steps = 4;
     for (int step = 1; step <= steps; ++step) {
-        QMouseEvent move(QEvent::MouseMove, from + (to - from) * step / steps, Qt::NoButton, button,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(&widget(), &move);
+        moveDragging(button, from + (to - from) * step / steps);
     }
     QTest::mouseRelease(&widget(), button, Qt::NoModifier, to);
+}
+
+void ViewDriver::moveDragging(Qt::MouseButton button, QPoint to) const {
+    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget(), &move);
 }
 
 void ViewDriver::key(Qt::Key key) const {

@@ -19,6 +19,8 @@ public:
     /** Moves the mouse there and presses and releases a button. */
     void click(Qt::MouseButton button, QPoint position) const;
     void drag(Qt::MouseButton button, QPoint from, QPoint to) const;
+    /** Moves the mouse there while the button is down. */
+    void moveDragging(Qt::MouseButton button, QPoint to) const;
     void key(Qt::Key key) const;
 
     /** Whether scene clicks choose (true) or move the camera (false). */
