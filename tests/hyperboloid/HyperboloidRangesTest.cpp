@@ -155,8 +155,9 @@ void expectSamePointInX(const Spaces& spaces, const Point& u, const Point& x) {
 }
 
 /** m = K (u - uHat), up to the roundings of u and m. */
-void expectSamePointInM(const Case& set, const Spaces& spaces, const Point& u, const Point& m) {
-    const Entries K = entries(spaces.u.KMatrix);
+void expectSamePointInM(const Case& set, const Point& u, const Point& m) {
+    const KAndUHat& p = set.p;
+    const Entries K{{{p.K1, 0, p.K13}, {0, p.K2, p.K23}, {p.K13, p.K23, p.K3}}};
     const Point uHat{set.p.U1, set.p.U2, set.p.U3};
     const Point w{u[0] - uHat[0], u[1] - uHat[1], u[2] - uHat[2]};
     for (std::size_t i = 0; i < 3; ++i) {
@@ -199,6 +200,25 @@ void expectOnQuadric(const Spaces& spaces, const Point& u, const Point& x) {
     const double bound =
         sumOfSizes(slope, uncertaintyOfU(spaces, u, x)) + roundings * epsilon * terms;
     ASSERT_NEAR(u[0] * u[1] - b * u[1] * u[2] - d * u[0] * u[2] - a * u[1] - c * u[0], 0, bound);
+}
+
+/**
+ * a, b, c, d as their formulas say, up to the roundings of K, which count the more the closer K1 is
+ * to K2.
+ */
+void expectCoefficients(const Case& set, const OpenHyperboloid& surface) {
+    const KAndUHat& p = set.p;
+    const double difference = p.K1 - p.K2;
+    const double uncertainty = roundings * epsilon * (1 + (p.K1 + p.K2) / std::abs(difference));
+    const auto expectQuotient = [&](double quotient, double term1, double term2, const char* name) {
+        ASSERT_NEAR(quotient, (term1 + term2) / difference,
+                    uncertainty * (std::abs(term1) + std::abs(term2)) / std::abs(difference))
+            << name;
+    };
+    expectQuotient(surface.a, p.K1 * p.U1, p.K13 * p.U3, "a");
+    expectQuotient(surface.b, -p.K13, 0, "b");
+    expectQuotient(surface.c, -p.K2 * p.U2, -p.K23 * p.U3, "c");
+    expectQuotient(surface.d, p.K23, 0, "d");
 }
 
 /** Energies and colours, where there are any, lie between 0 and 1. */
@@ -250,13 +270,14 @@ bool check(const Case& set) {
     }
     EXPECT_FALSE(std::any_of(spaces.u.energies.begin(), spaces.u.energies.end(),
                              [](float energy) { return std::isnan(energy); }));
+    expectCoefficients(set, spaces.u);
     for (int k = 0; k < set.columns * set.rows && !testing::Test::HasFatalFailure(); ++k) {
         const Point u = vertexOf(spaces.u, k);
         const Point x = vertexOf(spaces.x, k);
         expectOnCanonicalQuadric(spaces.x, x);
         expectOnQuadric(spaces, u, x);
         expectSamePointInX(spaces, u, x);
-        expectSamePointInM(set, spaces, u, vertexOf(spaces.m, k));
+        expectSamePointInM(set, u, vertexOf(spaces.m, k));
     }
     return true;
 }
