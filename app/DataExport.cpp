@@ -9,96 +9,114 @@
 #include <cmath>
 #include <cstdint>
 #include <ostream>
-#include <string>
 #include <string_view>
 
 namespace {
 
 constexpr int digitsAfterPoint = 10;
-constexpr std::uint64_t unitsPerOne = 10'000'000'000;
-/** Bits of a float's mantissa; from 2 to this power on a float is a whole number. */
-constexpr int mantissaBits = 24;
+constexpr double unitsPerOne = 1e10;
+/** From here on a float is a whole number. */
+constexpr float leastWholeNumber = 1 << 24;
 /** Room for the longest float in fixed notation: 39 digits, sign, point and decimals. */
 constexpr std::size_t longestNumber = 64;
 
 /**
- * A float below 2^24 in units of the last decimal, exactly rounded, ties to even.
+ * A float below 2^24 in units of the last decimal, rounded as a stream rounds it: ties to even.
  *
- * |value| = mantissa / 2^shift, so the units are mantissa * 10^10 / 2^shift, and the product has
- * less than 24 + 34 bits.
+ * The product is exact. 10^10 is 2^10 times 5^10, which has 24 bits, and so has the float: together
+ * they fit into a double's 53 bits.
  */
 std::uint64_t decimalUnits(float value) {
-    int exponent = 0;
-    const float fraction = std::frexp(std::fabs(value), &exponent);
-    const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, mantissaBits));
-    // Beyond this shift nothing is left of the product anyway.
-    constexpr int largestShift = 63;
-    const int shift = std::min(mantissaBits - exponent, largestShift);
-    const std::uint64_t product = mantissa * unitsPerOne;
-    const std::uint64_t units = product >> shift;
-    const std::uint64_t rest = product - (units << shift);
-    const std::uint64_t half = (std::uint64_t{1} << shift) / 2;
-    const bool roundsUp = rest > half || (rest == half && rest > 0 && units % 2 == 1);
-    return roundsUp ? units + 1 : units;
+    return static_cast<std::uint64_t>(
+        std::llrint(std::fabs(static_cast<double>(value)) * unitsPerOne));
 }
 
-/** Collects the text of one file, which then goes to the stream in one piece. */
-class TextBuilder {
+/** Collects the text of one file and passes it on to the stream in large pieces. */
+class TextWriter {
 public:
-    void line(std::string_view content = {}) { text.append(content).push_back('\n'); }
+    explicit TextWriter(std::ostream& stream)
+        : out(stream) {}
+    ~TextWriter() { passOn(); }
+    TextWriter(const TextWriter&) = delete;
+    TextWriter& operator=(const TextWriter&) = delete;
+
+    void line(std::string_view content = {}) {
+        words(content);
+        words("\n");
+    }
 
     void parameter(std::string_view name, float value) {
-        text.append(name).append(" = ");
+        words(name);
+        words(" = ");
         number(value);
-        text.push_back('\n');
+        words("\n");
     }
 
     void point(float x, float y, float z) {
         number(x);
-        text.append(separator);
+        words(separator);
         number(y);
-        text.append(separator);
+        words(separator);
         number(z);
-        text.push_back('\n');
-    }
-
-    void writeTo(std::ostream& out) const {
-        out.write(text.data(), static_cast<std::streamsize>(text.size()));
+        words("\n");
     }
 
 private:
     static constexpr std::string_view separator = "    ";
+    static constexpr std::size_t pieceSize = 1 << 16;
+
+    void passOn() {
+        out.write(piece.data(), end - piece.data());
+        end = piece.data();
+    }
+
+    /** Makes room for so many characters, fewer than a piece holds. */
+    void makeRoom(std::size_t count) {
+        if (static_cast<std::size_t>(limit - end) < count) {
+            passOn();
+        }
+    }
+
+    void words(std::string_view content) {
+        makeRoom(content.size());
+        end = std::copy(content.begin(), content.end(), end);
+    }
 
     void number(float value) {
-        std::array<char, longestNumber> digits{};
-        char* end = digits.data();
-        char* const limit = end + digits.size();
-        if (std::fabs(value) < std::ldexp(1.0F, mantissaBits)) {
-            const std::uint64_t units = decimalUnits(value);
-            if (std::signbit(value)) {
-                *end++ = '-';
-            }
-            end = std::to_chars(end, limit, units / unitsPerOne).ptr;
-            // A leading one keeps the decimals' zeros; the point takes its place.
-            char* const point = end;
-            end = std::to_chars(end, limit, unitsPerOne + units % unitsPerOne).ptr;
-            *point = '.';
+        makeRoom(longestNumber);
+        if (std::fabs(value) < leastWholeNumber) {
+            decimalNumber(value);
         } else {
             // Whole numbers, infinities and NaN, as a stream writes them.
             end = std::to_chars(end, limit, static_cast<double>(value), std::chars_format::fixed,
                                 digitsAfterPoint)
                       .ptr;
         }
-        text.append(digits.data(), end);
     }
 
-    std::string text;
+    void decimalNumber(float value) {
+        constexpr auto perOne = static_cast<std::uint64_t>(unitsPerOne);
+        const std::uint64_t units = decimalUnits(value);
+        if (std::signbit(value)) {
+            *end++ = '-';
+        }
+        end = std::to_chars(end, limit, units / perOne).ptr;
+        // A leading one keeps the decimals' zeros; the point takes its place.
+        char* const point = end;
+        end = std::to_chars(end, limit, perOne + units % perOne).ptr;
+        *point = '.';
+    }
+
+    std::ostream& out;
+    std::array<char, pieceSize> piece;
+    char* const limit = piece.data() + piece.size();
+    char* end = piece.data();
 };
 
 } // namespace
 
 void DataExport::writeHyperboloid(std::ostream& out, const Hyperboloid& hyperboloid) {
-    TextBuilder text;
+    TextWriter text(out);
     text.line("Hyperboloid Parameters:");
     text.line();
     text.parameter("K1", hyperboloid.getK(0));
@@ -122,11 +140,10 @@ void DataExport::writeHyperboloid(std::ostream& out, const Hyperboloid& hyperbol
         text.point(hyperboloid.getVertex(k, 0), hyperboloid.getVertex(k, 1),
                    hyperboloid.getVertex(k, 2));
     }
-    text.writeTo(out);
 }
 
 void DataExport::writeHelix(std::ostream& out, const Helix& helix) {
-    TextBuilder text;
+    TextWriter text(out);
     text.line("Helix Parameters:");
     text.line();
     text.parameter("radius", helix.getRadius());
@@ -141,5 +158,4 @@ void DataExport::writeHelix(std::ostream& out, const Helix& helix) {
     for (int i = 0; i < vertexCount; ++i) {
         text.point(helix.getLineVertex(i, 0), helix.getLineVertex(i, 1), helix.getLineVertex(i, 2));
     }
-    text.writeTo(out);
 }
