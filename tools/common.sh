@@ -9,7 +9,8 @@ viewer_packages=(
 virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
-    libgtest-dev libbenchmark-dev libxres-dev ghostscript locales-all valgrind)
+    libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
+    valgrind)
 check_packages=(clang-format clang-tidy git)
 coverage_packages=(gcovr)
 

@@ -148,6 +148,29 @@ TEST(Closing, WindowStaysOpenWhileADocumentRefuses) {
     opened.firstHelix().setClosableAlone(true);
 }
 
+TEST(Closing, NoCommandFailsInAWindowWhoseHyperboloidsHaveGone) {
+    const OpenedWindow opened;
+    opened.activate(opened.firstHelix());
+    const SliderWindow appearance(opened, "appearanceAct");
+    const QPointer<HyperboloidFrame> lastToGo(&opened.hyperboloid(Hyperboloid::MSPACE));
+    opened.firstHelix().setClosableAlone(false);
+    EXPECT_FALSE(opened.window().close());
+    ASSERT_TRUE(waitUntil([&] { return lastToGo.isNull(); }));
+    for (int row = 0; row < 3; ++row) {
+        appearance.slider(row).setValue(77);
+    }
+    for (const char* name : {"newAct", "hyperboloidParamsAct", "appearanceAct", "saveUAct",
+                             "saveXAct", "saveMAct", "tileAct", "nextAct"}) {
+        opened.action(name).trigger();
+    }
+    EXPECT_EQ(opened.frames().size(), 1U);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    HelixFrame& helix = *qobject_cast<HelixFrame*>(opened.frames().front());
+    helix.setClosableAlone(true);
+    opened.closeFrame(helix);
+    EXPECT_EQ(opened.window().getHelixCount(), 0);
+}
+
 TEST(Closing, WindowMayBeDestroyedWithItsDocumentsOpen) {
     auto window = std::make_unique<MainWindow>();
     window->setUpMainViewer();

@@ -1,9 +1,12 @@
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -19,22 +22,16 @@ public:
     SoSeparator* ribbon() const {
         return SceneReader::childNamed(*frame.getSceneRoot(), "Helix_Ribbon");
     }
-    static SbVec3f firstPoint(const SoSeparator& part) {
+    static std::vector<SbVec3f> points(const SoSeparator& part) {
         for (int i = 0; i < part.getNumChildren(); ++i) {
             if (auto* coordinates = dynamic_cast<SoCoordinate3*>(part.getChild(i))) {
-                return coordinates->point[0];
+                const SbVec3f* first = coordinates->point.getValues(0);
+                return {first, first + coordinates->point.getNum()};
             }
         }
-        return SbVec3f(0, 0, 0);
+        return {};
     }
-    static int pointCount(const SoSeparator& part) {
-        for (int i = 0; i < part.getNumChildren(); ++i) {
-            if (auto* coordinates = dynamic_cast<SoCoordinate3*>(part.getChild(i))) {
-                return coordinates->point.getNum();
-            }
-        }
-        return -1;
-    }
+    static int pointCount(const SoSeparator& part) { return static_cast<int>(points(part).size()); }
 };
 
 } // namespace
@@ -108,8 +105,13 @@ TEST(HelixFrameTest, StraightHelixIsStillDrawnAndTitled) {
     lone.frame.refresh(0, 0, 2, 5, 1, 1, 0);
     EXPECT_EQ(lone.frame.viewerTitle(), "U = (0; 0; 2)");
     EXPECT_EQ(lone.frame.getHelix().getRadius(), 0);
-    EXPECT_NE(lone.tube(), nullptr);
-    EXPECT_NE(lone.ribbon(), nullptr);
+    const float tubeRadius = lone.frame.getHelix().getTubeR();
+    for (const SbVec3f& point : LoneHelix::points(*lone.tube())) {
+        EXPECT_NEAR(std::hypot(point[0], point[1]), tubeRadius, 1e-6);
+    }
+    // The first of each pair lies on the centre line.
+    EXPECT_EQ(LoneHelix::points(*lone.ribbon())[0][0], 0);
+    EXPECT_EQ(LoneHelix::points(*lone.ribbon())[0][1], 0);
 }
 
 TEST(HelixFrameTest, SettersWithoutRedrawLeaveTheSceneAlone) {
@@ -132,15 +134,54 @@ TEST(HelixFrameTest, SettersWithoutRedrawLeaveTheSceneAlone) {
 
 TEST(HelixFrameTest, TubeRadiusResamplesOnlyTheTubeAndReplacesBothParts) {
     LoneHelix lone;
-    const SbVec3f tubeBefore = LoneHelix::firstPoint(*lone.tube());
-    const SbVec3f ribbonBefore = LoneHelix::firstPoint(*lone.ribbon());
-    const SoSeparator* ribbonNode = lone.ribbon();
+    const std::vector<SbVec3f> tubeBefore = LoneHelix::points(*lone.tube());
+    const std::vector<SbVec3f> ribbonBefore = LoneHelix::points(*lone.ribbon());
+    ReplacementCounter ribbons(*lone.frame.getSceneRoot(), "Helix_Ribbon");
     lone.frame.set_ribbon_range(0.2, false);
     lone.frame.set_tube_radius(0.02, true);
-    EXPECT_NE(LoneHelix::firstPoint(*lone.tube()), tubeBefore);
-    EXPECT_EQ(LoneHelix::firstPoint(*lone.ribbon()), ribbonBefore);
-    EXPECT_NE(lone.ribbon(), ribbonNode);
+    EXPECT_NE(LoneHelix::points(*lone.tube()), tubeBefore);
+    EXPECT_EQ(LoneHelix::points(*lone.ribbon()), ribbonBefore);
+    EXPECT_EQ(ribbons.take(), 1);
     EXPECT_EQ(lone.frame.getSceneRoot()->getNumChildren(), 6);
+}
+
+TEST(HelixFrameTest, RibbonRangeResamplesOnlyTheRibbon) {
+    LoneHelix lone;
+    const std::vector<SbVec3f> tubeBefore = LoneHelix::points(*lone.tube());
+    lone.frame.set_tube_radius(0.02, false);
+    lone.frame.set_ribbon_range(0.2, true);
+    EXPECT_EQ(LoneHelix::points(*lone.tube()), tubeBefore);
+    const std::vector<SbVec3f> ribbon = LoneHelix::points(*lone.ribbon());
+    EXPECT_NEAR((ribbon[1] - ribbon[0]).length(), 0.2, 1e-5);
+}
+
+TEST(HelixFrameTest, SettersSampleWhatTheyResize) {
+    LoneHelix lone;
+    lone.frame.set_precision_tube(8, true);
+    lone.frame.set_precision_line(20, true);
+    lone.frame.set_nturns(3, true);
+    Helix expected(1, 0.5F, 0.25F, 1, 0, 0);
+    expected.setPrecisionTube(8);
+    expected.setPrecisionLine(20);
+    expected.setNTurns(3);
+    expected.init_tables(true, true, true);
+    expected.generatePoints(true, true, true);
+    EXPECT_EQ(lone.frame.getHelix().getLineVertices(), expected.getLineVertices());
+    EXPECT_EQ(lone.frame.getHelix().getTubeVertices(), expected.getTubeVertices());
+    EXPECT_EQ(lone.frame.getHelix().getRibbonVertices(), expected.getRibbonVertices());
+}
+
+TEST(HelixFrameTest, TubePrecisionResamplesTheTubeAlongTheSameLine) {
+    LoneHelix lone;
+    const std::vector<SbVec3f> ribbonBefore = LoneHelix::points(*lone.ribbon());
+    lone.frame.set_ribbon_range(0.2, false);
+    lone.frame.set_precision_tube(8, true);
+    EXPECT_EQ(LoneHelix::points(*lone.ribbon()), ribbonBefore);
+    const SbVec3f center(lone.frame.getHelix().getLineVertex(0, 0),
+                         lone.frame.getHelix().getLineVertex(0, 1),
+                         lone.frame.getHelix().getLineVertex(0, 2));
+    EXPECT_NEAR((LoneHelix::points(*lone.tube())[3] - center).length(),
+                lone.frame.getHelix().getTubeR(), 1e-5);
 }
 
 TEST(HelixFrameTest, SettersWithRedrawGiveThePartsTheirNewSizes) {
@@ -152,8 +193,6 @@ TEST(HelixFrameTest, SettersWithRedrawGiveThePartsTheirNewSizes) {
     EXPECT_EQ(LoneHelix::pointCount(*lone.ribbon()), 2 * 100);
     lone.frame.set_nturns(3, true);
     EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 8 * 60);
-    lone.frame.set_ribbon_range(0.2, true);
-    EXPECT_EQ(LoneHelix::pointCount(*lone.ribbon()), 2 * 60);
 }
 
 TEST(HelixFrameTest, TubeIsLitOnTheSideThatIsSeen) {
@@ -181,9 +220,10 @@ TEST(HelixFrameTest, TubeIsLitOnTheSideThatIsSeen) {
 TEST(HelixFrameTest, NoTurnsDrawNothingAndTurnsComeBack) {
     LoneHelix lone;
     lone.frame.show();
+    EXPECT_TRUE(waitUntil([&] { return ViewDriver(lone.frame).isDrawn(); }));
     lone.frame.set_nturns(0, true);
     EXPECT_EQ(LoneHelix::pointCount(*lone.tube()), 0);
-    EXPECT_FALSE(QTest::qWaitFor([&] { return ViewDriver(lone.frame).isDrawn(); }, 300));
+    EXPECT_TRUE(waitUntil([&] { return !ViewDriver(lone.frame).isDrawn(); }));
     lone.frame.set_nturns(5, true);
     EXPECT_TRUE(waitUntil([&] { return ViewDriver(lone.frame).isDrawn(); }));
 }

@@ -110,11 +110,27 @@ TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
 }
 
 TEST(HyperboloidFrameTest, ChangingColoursOfULeavesThemAsTheyAre) {
-    const OpenedWindow opened;
-    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    HyperboloidFrame grey(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
+    grey.initialize();
+    grey.setSaturation(0, true);
+    HyperboloidFrame u(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
+    u.initialize();
     const SbColor before = color(u, 100);
+    ASSERT_NE(color(grey, 100), before);
+    u.setBrother(&grey, nullptr, nullptr);
     u.changeColors();
     EXPECT_EQ(color(u, 100), before);
+}
+
+TEST(HyperboloidFrameTest, BecomingBrothersBringsTheColoursOfUIntoTheScene) {
+    HyperboloidFrame u(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
+    HyperboloidFrame x(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::XSPACE, true, nullptr);
+    u.initialize();
+    x.initialize();
+    x.setBrother(&u, &x, nullptr);
+    EXPECT_EQ(color(x, 100), color(u, 100));
+    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(x), "Hyperboloid");
+    EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor[100], color(u, 100));
 }
 
 TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
@@ -185,7 +201,12 @@ TEST(HyperboloidFrameTest, RefreshedHelixGetsTheUCoordinatesFromEveryFrame) {
         opened.hyperboloid(space).SetPreviousHelix(&helix);
         opened.hyperboloid(space).refresh_helix(index);
         EXPECT_EQ(helix.getIndex(), index);
-        EXPECT_EQ(helix.getHelix().getTorsion(), u.getVertex(index, 2));
+        const SbColor shown = color(u, index);
+        const Helix expected(u.getVertex(index, 0), u.getVertex(index, 1), u.getVertex(index, 2),
+                             shown[0], shown[1], shown[2]);
+        EXPECT_EQ(helix.getHelix().getLineVertices(), expected.getLineVertices());
+        EXPECT_EQ(helix.getHelix().getRibbonVertices(), expected.getRibbonVertices());
+        EXPECT_EQ(helix.getHelix().getHelixColor(), expected.getHelixColor());
     }
 }
 

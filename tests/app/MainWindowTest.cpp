@@ -54,15 +54,17 @@ TEST(MainWindowTest, OpensWhereItWasClosed) {
 }
 
 TEST(MainWindowTest, UnreadableSettingsFallBackToTheDefaults) {
-    {
-        QSettings settings("Trolltech", "MDI Viewer");
-        settings.remove("pos");
-        settings.remove("size");
-        settings.setValue("other", 1);
+    for (const QVariant& unreadable : {QVariant("garbage"), QVariant(17), QVariant(QSize(-1, -1)),
+                                       QVariant(QByteArray("\0\1", 2))}) {
+        {
+            QSettings settings("Trolltech", "MDI Viewer");
+            settings.setValue("pos", unreadable);
+            settings.setValue("size", unreadable);
+        }
+        const MainWindow window;
+        EXPECT_EQ(window.pos(), QPoint(200, 200));
+        EXPECT_EQ(window.size(), QSize(400, 400));
     }
-    const MainWindow window;
-    EXPECT_EQ(window.pos(), QPoint(200, 200));
-    EXPECT_EQ(window.size(), QSize(400, 400));
     clearSettings();
 }
 

@@ -276,3 +276,19 @@ TEST(MenusTest, FramesAddNothingToTheirMetaObjects) {
         EXPECT_EQ(meta->propertyCount(), meta->propertyOffset());
     }
 }
+
+TEST(Menus, NextAndPreviousNeedASecondDocument) {
+    MainWindow window;
+    window.show();
+    const auto isEnabled = [&](const char* name) {
+        return window.findChild<QAction*>(name)->isEnabled();
+    };
+    HyperboloidFrame* frame = nullptr;
+    ASSERT_TRUE(QMetaObject::invokeMethod(&window, "createHyperboloid",
+                                          Q_RETURN_ARG(HyperboloidFrame*, frame), Q_ARG(int, 0),
+                                          Q_ARG(const char*, "In U Space")));
+    frame->show();
+    EXPECT_TRUE(waitUntil([&] { return isEnabled("closeAct"); }));
+    EXPECT_FALSE(isEnabled("nextAct"));
+    EXPECT_FALSE(isEnabled("previousAct"));
+}

@@ -156,3 +156,35 @@ TEST(Program, LosingTheDisplayEndsItWithAMessage) {
     EXPECT_NE(viewer.exitCode(), 0);
     EXPECT_NE(viewer.errors(), "");
 }
+
+TEST(Program, WindowManagerClosesItAndItsGeometryIsStored) {
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset"});
+    ASSERT_TRUE(server.waitForReadyRead());
+    const QString display = ":" + QString(server.readLine()).trimmed();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", display);
+    QProcess windowManager;
+    windowManager.setProcessEnvironment(environment);
+    windowManager.start("openbox", QStringList());
+    RunningViewer viewer(display);
+    ASSERT_TRUE(viewer.waitForWindow());
+    const auto user = [&](const QStringList& does) {
+        QProcess xdotool;
+        xdotool.setProcessEnvironment(environment);
+        xdotool.start("xdotool", does);
+        return xdotool.waitForFinished() && xdotool.exitCode() == 0;
+    };
+    EXPECT_TRUE(user({"search", "--sync", "--onlyvisible", "--name", "Visualisation of Torvane",
+                      "windowactivate", "--sync"}));
+    // As a stroke of its own: sent to a window it would never reach the window manager.
+    EXPECT_TRUE(user({"key", "alt+F4"}));
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(400 400)"));
+    windowManager.terminate();
+    windowManager.waitForFinished();
+    server.terminate();
+    server.waitForFinished();
+}
