@@ -120,7 +120,7 @@ public:
     void add(double difference, double bound, int k) {
         // Without rounding the difference is 0, and so may be the bound.
         const double newShare = difference == 0.0 ? 0.0 : std::fabs(difference) / bound;
-        if (!(newShare <= share)) {
+        if (!std::isnan(share) && !(newShare <= share)) {
             share = newShare;
             vertex = k;
         }
@@ -431,7 +431,8 @@ SbBox3f boxOf(SoSeparator* drawing) {
     return action.getBoundingBox();
 }
 
-void expectPickWithinGrid(SoSeparator* drawing, int count) {
+/** A ray hits vertices that there are, and never one that is nowhere. */
+void expectPickOfFiniteVertices(SoSeparator* drawing, const OpenHyperboloid& model, int count) {
     SoRayPickAction pick(SbViewportRegion(100, 100));
     pick.setRay(SbVec3f(0.4F, 0.3F, 100.0F), SbVec3f(0.0F, 0.1F, -1.0F));
     pick.apply(drawing);
@@ -442,8 +443,11 @@ void expectPickWithinGrid(SoSeparator* drawing, int count) {
     const auto* face = dynamic_cast<const SoFaceDetail*>(picked->getDetail());
     ASSERT_NE(face, nullptr);
     for (int i = 0; i < face->getNumPoints(); ++i) {
-        EXPECT_GE(face->getPoint(i)->getCoordinateIndex(), 0);
-        EXPECT_LT(face->getPoint(i)->getCoordinateIndex(), count);
+        const int k = face->getPoint(i)->getCoordinateIndex();
+        ASSERT_GE(k, 0);
+        ASSERT_LT(k, count);
+        EXPECT_TRUE(isFinite({model.getVertex(k, 0), model.getVertex(k, 1), model.getVertex(k, 2)}))
+            << "vertex " << k;
     }
 }
 
@@ -476,7 +480,7 @@ void expectSurfaceDrawn(OpenHyperboloid& model, int columns, int rows) {
     EXPECT_EQ(material->diffuseColor.getNum(), columns * rows);
     EXPECT_EQ(material->specularColor.getNum(), columns * rows);
     expectBoxOfFiniteVertices(boxOf(surface.get()), model, columns * rows);
-    expectPickWithinGrid(surface.get(), columns * rows);
+    expectPickOfFiniteVertices(surface.get(), model, columns * rows);
 }
 
 void expectDecorationsDrawn(OpenHyperboloid& model, const DrawnParameters& drawn) {
