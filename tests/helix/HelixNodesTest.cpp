@@ -156,3 +156,12 @@ TEST(HelixNodes, HelixWithoutTurnsIsDrawnAsNothingAndWithoutComplaint) {
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     }
 }
+
+TEST(HelixNodes, RingOfASingleVertexHasNoMesh) {
+    Helix helix;
+    helix.setPrecisionTube(1);
+    helix.init_tables(false, true, false);
+    const Part tube(helix.DrawTube());
+    EXPECT_EQ(tube->getNumChildren(), 3);
+    EXPECT_EQ(child<SoCoordinate3>(tube, 2)->point.getNum(), 250);
+}
