@@ -12,8 +12,16 @@ bool isSet(const char* variable) {
     return qEnvironmentVariableIsSet(variable);
 }
 
-/** How long the splash is waited for on a window system that never exposes it, in milliseconds. */
-constexpr qint64 splashPatience = 500;
+/** How long a window is waited for on a window system that never exposes it, in milliseconds. */
+constexpr int patience = 500;
+
+void waitUntilExposed(const QWidget& widget) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!widget.windowHandle()->isExposed() && timer.elapsed() < patience) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, patience);
+    }
+}
 
 } // namespace
 
@@ -36,10 +44,12 @@ void StartUp::setPlugInPath() {
 void StartUp::showSplash(QSplashScreen& splash) {
     splash.show();
     splash.showMessage(QObject::tr("Computing..."), Qt::AlignRight | Qt::AlignTop, Qt::white);
-    QElapsedTimer timer;
-    timer.start();
-    while (!splash.windowHandle()->isExposed() && timer.elapsed() < splashPatience) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, splashPatience);
-    }
+    waitUntilExposed(splash);
     splash.repaint();
+}
+
+void StartUp::finishSplash(QSplashScreen& splash, QWidget& mainWindow) {
+    // Waiting by itself, the splash would look only every ten milliseconds.
+    waitUntilExposed(mainWindow);
+    splash.finish(&mainWindow);
 }

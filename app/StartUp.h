@@ -1,6 +1,7 @@
 #pragma once
 
 class QSplashScreen;
+class QWidget;
 
 /** What has to be settled around the application object before the first window can draw. */
 namespace StartUp {
@@ -16,5 +17,8 @@ void setPlugInPath();
 
 /** Shows the splash with its message and returns once it is on the screen. */
 void showSplash(QSplashScreen& splash);
+
+/** Closes the splash as soon as the shown main window is on the screen. */
+void finishSplash(QSplashScreen& splash, QWidget& mainWindow);
 
 } // namespace StartUp

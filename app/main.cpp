@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     SoQt::init(mainWindow.get());
     mainWindow->setUpMainViewer();
     SoQt::show(mainWindow.get());
-    splash.finish(mainWindow.get());
+    StartUp::finishSplash(splash, *mainWindow);
 
     // Leaving all event loops also ends a dialog that is still open.
     QObject::connect(&terminationSignals, SIGNAL(received()), mainWindow.get(), SLOT(close()));

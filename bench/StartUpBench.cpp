@@ -114,7 +114,7 @@ int runViewer(int argc, char** argv) {
         end.watch(view++, *frame->getSceneRoot());
     }
     SoQt::show(&window);
-    splash.finish(&window);
+    StartUp::finishSplash(splash, window);
     SoQt::mainLoop();
     return 1;
 }

@@ -1,26 +1,39 @@
 #include "helix/Helix.h"
 #include "tests/reference/PlainHelix.h"
 
+#include <cmath>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace {
 
-/** Whether two tables agree to the last bit; NaNs count as one value. */
+/** Whether two numbers agree to the last bit; NaNs count as one value. */
+bool sameBits(float one, float other) {
+    return (std::isnan(one) && std::isnan(other)) || std::memcmp(&one, &other, sizeof(float)) == 0;
+}
+
 bool sameBits(const Helix::Table& one, const Helix::Table& other) {
     if (one.size() != other.size()) {
         return false;
     }
     for (std::size_t i = 0; i < one.size(); ++i) {
         for (std::size_t c = 0; c < 3; ++c) {
-            const bool bothNaN = one[i][c] != one[i][c] && other[i][c] != other[i][c];
-            if (!bothNaN && std::memcmp(&one[i][c], &other[i][c], sizeof(float)) != 0) {
+            if (!sameBits(one[i][c], other[i][c])) {
                 return false;
             }
         }
     }
     return true;
+}
+
+void expectSameParameters(const Helix& helix, const PlainHelix& plain) {
+    EXPECT_TRUE(sameBits(helix.getPhi(), plain.phi));
+    EXPECT_TRUE(sameBits(helix.getOmega(), plain.omega));
+    EXPECT_TRUE(sameBits(helix.getRadius(), plain.radius));
+    EXPECT_TRUE(sameBits(helix.getPitch(), plain.pitch));
+    EXPECT_TRUE(sameBits(helix.getCurvature(), plain.curvature));
+    EXPECT_TRUE(sameBits(helix.getTorsion(), plain.torsion));
 }
 
 void expectSameTables(const Helix& helix, const PlainHelix& plain) {
@@ -67,19 +80,20 @@ TEST(HelixBitIdentity, HoldsForRandomPoints) {
     for (int i = 0; i < 300; ++i) {
         const Pair pair(value(random), value(random), value(random));
         expectSameTables(pair.ours, pair.plain);
-        EXPECT_EQ(pair.ours.getPhi(), pair.plain.phi);
-        EXPECT_EQ(pair.ours.getOmega(), pair.plain.omega);
-        EXPECT_EQ(pair.ours.getRadius(), pair.plain.radius);
-        EXPECT_EQ(pair.ours.getPitch(), pair.plain.pitch);
+        expectSameParameters(pair.ours, pair.plain);
     }
 }
 
 TEST(HelixBitIdentity, HoldsForSpecialPoints) {
-    for (const float u1 : {-1.0F, 0.0F, 1.0F, 1e-20F, 1e20F}) {
+    for (const float u1 : {-1.0F, 0.0F, 1.0F, 1e-20F, 1e-30F, 1e20F}) {
         for (const float u2 : {-1.0F, 0.0F, 2.0F, 1e-20F}) {
             for (const float u3 : {-1.0F, 0.0F, 0.5F, 1e20F}) {
-                const Pair pair(u1, u2, u3);
+                SCOPED_TRACE(testing::Message() << u1 << " " << u2 << " " << u3);
+                Pair pair(u1, u2, u3);
                 expectSameTables(pair.ours, pair.plain);
+                expectSameParameters(pair.ours, pair.plain);
+                EXPECT_EQ(pair.ours.refresh_param(u1, u2, u3, 1, 0, 0),
+                          pair.plain.refresh_param(u1, u2, u3, 1, 0, 0));
             }
         }
     }
