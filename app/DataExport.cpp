@@ -108,7 +108,7 @@ private:
     }
 
     std::ostream& out;
-    std::array<char, pieceSize> piece;
+    std::array<char, pieceSize> piece{};
     char* const limit = piece.data() + piece.size();
     char* end = piece.data();
 };

@@ -113,7 +113,7 @@ TEST(Closing, CloseActionClosesTheActiveHelixAndNoHyperboloid) {
 }
 
 TEST(Closing, WindowClosesWithAnyNumberOfHelicesAndStoresItsGeometry) {
-    for (int helices = 0; helices <= 3; ++helices) {
+    for (int helices = 0; helices <= 5; ++helices) {
         QSettings("Trolltech", "MDI Viewer").clear();
         {
             const OpenedWindow opened;
