@@ -80,9 +80,10 @@ MainWindow::MainWindow()
 }
 
 MainWindow::~MainWindow() {
-    // Frames that are still open report to this window when they die: while it is whole.
+    // Frames report to this window when they die: while it is whole. Those that have been closed
+    // may be waiting for the event loop to delete them; only the area's list has forgotten them.
     disconnect(mdiArea, nullptr, this, nullptr);
-    qDeleteAll(mdiArea->subWindowList());
+    qDeleteAll(mdiArea->findChildren<QMdiSubWindow*>());
 }
 
 void MainWindow::createActions() {

@@ -28,7 +28,10 @@ int main(int argc, char** argv) {
     QObject::connect(&terminationSignals, SIGNAL(received()), mainWindow.get(), SLOT(close()));
     QObject::connect(&terminationSignals, SIGNAL(received()), &application, SLOT(quit()));
     terminationSignals.deliver();
-    SoQt::mainLoop();
+    // A window that has been closed while the program started would never end the loop.
+    if (mainWindow->isVisible()) {
+        SoQt::mainLoop();
+    }
     // The viewers go before the toolkit, also when something else than closing ended the loop.
     if (mainWindow->isVisible()) {
         mainWindow->close();

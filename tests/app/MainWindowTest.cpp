@@ -3,8 +3,10 @@
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/SceneReader.h"
 
+#include <QApplication>
 #include <QSettings>
 #include <QStatusBar>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,6 +18,22 @@ QStringList titles(const OpenedWindow& opened) {
     }
     return found;
 }
+
+/** Counts the windows that come on the screen without another window around them. */
+class ShownTopLevelWindows : public QObject {
+public:
+    ShownTopLevelWindows() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* shown = qobject_cast<QWindow*>(watched);
+        if (shown != nullptr && event->type() == QEvent::Show && shown->parent() == nullptr) {
+            ++count;
+        }
+        return false;
+    }
+
+    int count = 0;
+};
 
 void clearSettings() {
     QSettings("Trolltech", "MDI Viewer").clear();
@@ -86,6 +104,18 @@ TEST(MainWindowTest, StartsWithThreeSpacesAndAHelixInOrder) {
     EXPECT_EQ(opened.window().windowTitle(), "Visualisation of Torvane");
 }
 
+TEST(MainWindowTest, DocumentsAreNeverWindowsOfTheirOwn) {
+    MainWindow window;
+    ShownTopLevelWindows shown;
+    window.setUpMainViewer();
+    EXPECT_EQ(shown.count, 0);
+    window.show();
+    EXPECT_EQ(shown.count, 1);
+    QMetaObject::invokeMethod(&window, "newViewer");
+    EXPECT_EQ(shown.count, 1);
+    window.close();
+}
+
 TEST(MainWindowTest, DocumentsAreTiledWithoutOverlap) {
     const OpenedWindow opened;
     const QList<QMdiSubWindow*> all = opened.area().subWindowList();
@@ -106,6 +136,16 @@ TEST(MainWindowTest, FirstHelixIsMadeFromVertexZeroOfU) {
     EXPECT_EQ(helix.getRadius(), expected.getRadius());
     EXPECT_EQ(helix.getPitch(), expected.getPitch());
     EXPECT_EQ(helix.getHelixColor(), expected.getHelixColor());
+}
+
+TEST(MainWindowTest, NewHelixHasRoomToBeDrawn) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    const HelixFrame& helix = *opened.helices().back();
+    EXPECT_TRUE(opened.waitUntilAllViewsAreDrawn());
+    EXPECT_GE(helix.width(), helix.minimumWidth());
+    EXPECT_GE(helix.height(), helix.minimumHeight());
+    EXPECT_TRUE(opened.subWindow(helix).rect().contains(helix.geometry()));
 }
 
 TEST(MainWindowTest, NewHelixGetsASphereAtVertexZeroInEverySpaceAndBecomesActive) {

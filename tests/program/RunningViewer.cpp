@@ -1,5 +1,7 @@
 #include "tests/program/RunningViewer.h"
 
+#include "tests/support/WindowMessages.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -10,6 +12,7 @@ namespace {
 constexpr int patience = 30000;
 /** Time between two looks at the screen, in milliseconds. */
 constexpr int lookInterval = 100;
+constexpr const char* mainWindowTitle = "Visualisation of Torvane";
 constexpr int menuBarHeight = 22;
 constexpr int statusBarHeight = 22;
 
@@ -93,24 +96,26 @@ QRect RunningViewer::statusBar() const {
     return {0, size.height() - statusBarHeight, size.width(), statusBarHeight};
 }
 
-bool RunningViewer::xdotool(const QStringList& arguments) {
-    return QProcess::execute("xdotool", arguments) == 0;
+std::optional<QString> RunningViewer::xdotool(const QStringList& arguments) const {
+    QProcess tool;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", display);
+    tool.setProcessEnvironment(environment);
+    tool.start("xdotool", arguments);
+    if (!tool.waitForFinished() || tool.exitCode() != 0) {
+        return std::nullopt;
+    }
+    return tool.readAllStandardOutput();
 }
 
 bool RunningViewer::waitForWindowFoundBy(const QStringList& criterion) const {
     return waitUntil([&] {
-        QProcess search;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("DISPLAY", display);
-        search.setProcessEnvironment(environment);
-        search.start("xdotool", QStringList{"search", "--onlyvisible"} + criterion);
-        search.waitForFinished();
-        return search.exitCode() == 0;
+        return xdotool(QStringList{"search", "--onlyvisible"} + criterion).has_value();
     });
 }
 
 bool RunningViewer::waitForWindow() const {
-    return waitForWindowFoundBy({"--name", "Visualisation of Torvane"});
+    return waitForWindowFoundBy({"--name", mainWindowTitle});
 }
 
 bool RunningViewer::waitForAnyWindow() const {
@@ -169,8 +174,22 @@ QPoint RunningViewer::surfaceIn(const QRect& view) const {
     return {};
 }
 
+bool RunningViewer::closeBeforeItIsShown() const {
+    return waitUntil([&] {
+        const std::optional<QString> window = xdotool({"search", "--name", mainWindowTitle});
+        return window && askToClose(display.toStdString(), window->trimmed().toULong());
+    });
+}
+
 bool RunningViewer::waitForEnd() {
     return process.waitForFinished(patience);
+}
+
+bool RunningViewer::keyUntilEnd(const QString& name) {
+    return waitUntil([&] {
+        key(name);
+        return process.waitForFinished(lookInterval);
+    });
 }
 
 QString RunningViewer::errors() {

@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QTemporaryDir>
 #include <functional>
+#include <optional>
 
 /** The real program on the display, driven from outside: by xdotool, seen by screenshots. */
 class RunningViewer {
@@ -32,8 +33,9 @@ public:
     /** Waits until a part of the screen shows strong colours, as surfaces and helices have. */
     bool waitUntilColoured(const QRect& part) const;
 
-    /** Runs xdotool with arguments; false when it fails. */
-    static bool xdotool(const QStringList& arguments);
+    /** Runs xdotool with arguments on the program's display; what it prints, or nothing when it
+        fails. */
+    std::optional<QString> xdotool(const QStringList& arguments) const;
     void click(int button, QPoint position) const;
     void key(const QString& name) const;
 
@@ -47,8 +49,13 @@ public:
     /** A place in a view where the surface is seen: a saturated pixel near the middle. */
     QPoint surfaceIn(const QRect& view) const;
 
+    /** Asks the main window to close as soon as it exists, before it is on the screen. */
+    bool closeBeforeItIsShown() const;
     void terminate() { process.terminate(); }
     bool waitForEnd();
+    /** Strikes a key until the program has ended: a window manager may miss the first stroke, as
+        it takes its keys anew when a keyboard is used for the first time. */
+    bool keyUntilEnd(const QString& name);
     int exitCode() const { return process.exitCode(); }
     bool crashed() const { return process.exitStatus() != QProcess::NormalExit; }
     /** What the program has written to standard error. */
