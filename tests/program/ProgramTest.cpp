@@ -33,6 +33,15 @@ void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
     }
 }
 
+/** Expects that a termination signal ends the program as closing its window would. */
+void expectTerminatesInOrder(RunningViewer& viewer) {
+    viewer.terminate();
+    ASSERT_TRUE(viewer.waitForEnd());
+    EXPECT_FALSE(viewer.crashed());
+    EXPECT_EQ(viewer.exitCode(), 0);
+    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
+}
+
 } // namespace
 
 TEST(Program, ShowsFourDrawnViewsWithoutAnyInteraction) {
@@ -131,11 +140,23 @@ TEST(Program, TerminationSignalEndsItWithADialogOpen) {
     const QImage before = viewer.screen();
     viewer.key("ctrl+p");
     EXPECT_TRUE(viewer.waitUntilChanged(before.rect(), before));
-    viewer.terminate();
-    ASSERT_TRUE(viewer.waitForEnd());
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
-    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
+    expectTerminatesInOrder(viewer);
+}
+
+TEST(Program, TerminationSignalEndsItWithTheErrorBoxOpen) {
+    TiedViewer viewer;
+    // A place that the dialog covers and the narrower box does not.
+    const QRect besideTheBox = viewer.helixView().adjusted(0, 0, -150, 0);
+    const QImage before = viewer.screen();
+    const QImage uncovered = before.copy(besideTheBox);
+    viewer.key("ctrl+p");
+    EXPECT_TRUE(viewer.waitUntilChanged(besideTheBox, uncovered));
+    // K1, where the cursor is, may not exceed K2, which is 1.5.
+    viewer.key("9");
+    viewer.key("Return");
+    EXPECT_TRUE(viewer.waitUntilLike(besideTheBox, uncovered));
+    EXPECT_NE(viewer.screen(), before);
+    expectTerminatesInOrder(viewer);
 }
 
 TEST(Program, TerminationSignalDuringStartUpEndsIt) {

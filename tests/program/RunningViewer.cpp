@@ -133,8 +133,8 @@ bool RunningViewer::waitUntilAllViewsAreDrawn() const {
 }
 
 void RunningViewer::click(int button, QPoint position) const {
-    xdotool({"mousemove", "--sync", QString::number(position.x()), QString::number(position.y())});
-    xdotool({"click", QString::number(button)});
+    xdotool({"mousemove", QString::number(position.x()), QString::number(position.y()), "click",
+             QString::number(button)});
 }
 
 void RunningViewer::key(const QString& name) const {
