@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -100,7 +101,10 @@ void confirm(QWidget& dialog) {
 } // namespace
 
 DialogMoves::DialogMoves(const OpenedWindow& openedWindow)
-    : opened(openedWindow) {}
+    : opened(openedWindow) {
+    // The file dialog reads a quotation mark as the start of a name of its own, without a folder.
+    QDir::setCurrent(folder.path());
+}
 
 std::vector<Move> DialogMoves::all() {
     return {{"parameters", 6,
