@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <numeric>
+#include <string>
 
 namespace {
 
@@ -136,6 +137,21 @@ TEST(Closing, WindowClosesWithAnyNumberOfHelicesAndStoresItsGeometry) {
         EXPECT_TRUE(settings.contains("pos"));
         EXPECT_TRUE(settings.contains("size"));
     }
+}
+
+TEST(Closing, HelicesDieBeforeTheHyperboloidsWhenTheWindowCloses) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    std::vector<std::string> deaths;
+    for (const SoQtGeneralViewerFrame* frame : opened.frames()) {
+        const std::string type = frame->GetType();
+        QObject::connect(frame, &QObject::destroyed, [&deaths, type] { deaths.push_back(type); });
+    }
+    EXPECT_TRUE(opened.window().close());
+    EXPECT_TRUE(waitUntil([&] { return deaths.size() == 5; }));
+    EXPECT_EQ(deaths, (std::vector<std::string>{HelixFrame::Type(), HelixFrame::Type(),
+                                                HyperboloidFrame::Type(), HyperboloidFrame::Type(),
+                                                HyperboloidFrame::Type()}));
 }
 
 TEST(Closing, WindowStaysOpenWhileADocumentRefuses) {

@@ -1,4 +1,4 @@
-#include "tests/support/ModalDialogs.h"
+#include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SliderWindow.h"
@@ -42,15 +42,15 @@ TEST(HelixWindowTest, NeedsAHelixFrame) {
     const OpenedWindow opened;
     opened.activate(opened.hyperboloid(Hyperboloid::XSPACE));
     const int windowsBefore = QApplication::topLevelWidgets().size();
-    ModalDialogs::answer([&] { opened.action("helixParamsAct").trigger(); }, {[](QWidget& widget) {
-                             auto* box = qobject_cast<QMessageBox*>(&widget);
-                             ASSERT_NE(box, nullptr);
-                             EXPECT_EQ(box->text(), "Select an Helix Viewer");
-                             EXPECT_EQ(box->icon(), QMessageBox::Warning);
-                             EXPECT_EQ(box->parent(), nullptr);
-                             EXPECT_TRUE(box->isModal());
-                             QTest::keyClick(box, Qt::Key_Return);
-                         }});
+    DialogDriver()
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "Select an Helix Viewer");
+            EXPECT_EQ(box.icon(), QMessageBox::Warning);
+            EXPECT_EQ(box.parent(), nullptr);
+            EXPECT_TRUE(box.isModal());
+            QTest::keyClick(&box, Qt::Key_Return);
+        })
+        .during([&] { opened.action("helixParamsAct").trigger(); });
     EXPECT_EQ(QApplication::topLevelWidgets().size(), windowsBefore);
     EXPECT_EQ(modelOf(opened).getTubeR(), 0.01F);
 }

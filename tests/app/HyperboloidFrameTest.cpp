@@ -1,5 +1,7 @@
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
+#include "tests/support/VertexHelix.h"
 
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCoordinate3.h>
@@ -47,6 +49,35 @@ void expectSpheresAtVertex(const OpenedWindow& opened, const HelixFrame& helix, 
     }
 }
 
+/** A hyperboloid frame with the start-up parameters, without a main window, initialized. */
+class LoneFrame {
+public:
+    explicit LoneFrame(int space)
+        : frame(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, space, true, nullptr) {
+        frame.initialize();
+    }
+    HyperboloidFrame frame;
+};
+
+const SbColor grey(0.25F, 0.25F, 0.25F);
+
+/** Grey from the next time on that colours are computed. */
+void makeGreyLater(HyperboloidFrame& frame) {
+    frame.setSaturation(0, false);
+    frame.setLightness(25, false);
+}
+
+void makeGrey(HyperboloidFrame& frame) {
+    makeGreyLater(frame);
+    frame.reDraw(false, true);
+}
+
+/** The colour of a vertex in the scene, rather than in the model's table. */
+SbColor shownColor(const HyperboloidFrame& frame, int index) {
+    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid");
+    return SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor[index];
+}
+
 } // namespace
 
 TEST(HyperboloidFrameTest, KnowsItsTypeItsSpaceAndItsBrothers) {
@@ -90,13 +121,13 @@ TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAnd
     HyperboloidFrame& frame = opened.hyperboloid(Hyperboloid::USPACE);
     frame.DrawAxis(2, 0.1);
     const std::string sphere = nameOf(opened.firstHelix());
-    const SoNode* surface = SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid");
+    ReplacementCounter surfaces(drawStyleBranch(frame), "Hyperboloid");
     frame.reDraw(false, false);
     Names names = SceneReader::childNames(phongBranch(frame));
     names.erase(names.begin());
     EXPECT_EQ(names, (Names{sphere, "Axis", "U3Axis", "Center", "uHat", "U3ConstAxis"}));
     EXPECT_EQ(SceneReader::countNamed(drawStyleBranch(frame), "Hyperboloid"), 1);
-    EXPECT_NE(SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid"), surface);
+    EXPECT_EQ(surfaces.take(), 1);
 }
 
 TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
@@ -109,17 +140,63 @@ TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
     }
 }
 
-TEST(HyperboloidFrameTest, ChangingColoursOfULeavesThemAsTheyAre) {
-    HyperboloidFrame grey(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
-    grey.initialize();
-    grey.setSaturation(0, true);
-    HyperboloidFrame u(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
-    u.initialize();
-    const SbColor before = color(u, 100);
-    ASSERT_NE(color(grey, 100), before);
-    u.setBrother(&grey, nullptr, nullptr);
-    u.changeColors();
-    EXPECT_EQ(color(u, 100), before);
+TEST(HyperboloidFrameTest, BrothersAreDressedInTheColoursOfUAndOnlyTheyAreDrawnAnew) {
+    LoneFrame u(Hyperboloid::USPACE);
+    makeGrey(u.frame);
+    for (const int space : {Hyperboloid::USPACE, Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
+        LoneFrame lone(space);
+        ReplacementCounter surfaces(drawStyleBranch(lone.frame), "Hyperboloid");
+        ASSERT_NE(color(lone.frame, 100), grey);
+        lone.frame.setBrother(&u.frame, nullptr, nullptr);
+        const bool isU = space == Hyperboloid::USPACE;
+        EXPECT_EQ(color(lone.frame, 100) == grey, !isU);
+        EXPECT_EQ(shownColor(lone.frame, 100) == grey, !isU);
+        EXPECT_EQ(surfaces.take(), isU ? 0 : 1);
+    }
+}
+
+TEST(HyperboloidFrameTest, ChangingColoursCopiesThemIntoXAndMOnly) {
+    LoneFrame u(Hyperboloid::USPACE);
+    for (const int space : {Hyperboloid::USPACE, Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
+        LoneFrame lone(space);
+        lone.frame.setBrother(&u.frame, nullptr, nullptr);
+        makeGrey(u.frame);
+        lone.frame.changeColors();
+        EXPECT_EQ(color(lone.frame, 100) == grey, space != Hyperboloid::USPACE);
+        EXPECT_NE(shownColor(lone.frame, 100), grey) << "nothing is drawn yet";
+        u.frame.setSaturation(100, true);
+        ASSERT_NE(color(u.frame, 100), grey);
+    }
+}
+
+TEST(HyperboloidFrameTest, RedrawComputesPointsAndColoursEachWhenAsked) {
+    LoneFrame lone(Hyperboloid::USPACE);
+    HyperboloidFrame& u = lone.frame;
+    const SbVec3f before = vertex(u, 100);
+    u.set_parameters(1, 2, 1, 0.5, 0.5, 1, 0, 0, 64, 64, 0.3, 7, 7, 0.02, 0.03);
+    makeGreyLater(u);
+    u.reDraw(false, false);
+    EXPECT_EQ(vertex(u, 100), before);
+    EXPECT_NE(color(u, 100), grey);
+    u.reDraw(false, true);
+    EXPECT_EQ(vertex(u, 100), before);
+    EXPECT_EQ(color(u, 100), grey);
+    // New tables hold no colours until these are asked for.
+    u.reDraw(true, false);
+    EXPECT_NE(vertex(u, 100), before);
+    EXPECT_EQ(color(u, 100), SbColor(0, 0, 0));
+    EXPECT_EQ(shownColor(u, 100), SbColor(0, 0, 0));
+    u.reDraw(true, true);
+    EXPECT_EQ(color(u, 100), grey);
+}
+
+TEST(HyperboloidFrameTest, RedrawWithNewTablesTakesOverTheNewGrid) {
+    LoneFrame lone(Hyperboloid::USPACE);
+    lone.frame.set_parameters(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, 20, 10, 0.3, 7, 7, 0.02, 0.03);
+    lone.frame.reDraw(true, false);
+    const SoSeparator* surface =
+        SceneReader::childNamed(drawStyleBranch(lone.frame), "Hyperboloid");
+    EXPECT_EQ(SceneReader::child<SoCoordinate3>(*surface, 2)->point.getNum(), 20 * 10);
 }
 
 TEST(HyperboloidFrameTest, BecomingBrothersBringsTheColoursOfUIntoTheScene) {
@@ -152,12 +229,13 @@ TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
     const OpenedWindow opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid");
+    ReplacementCounter surfaces(drawStyleBranch(u), "Hyperboloid");
     u.setTransparency(50, false);
     EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->transparency[0], 0.5F);
     EXPECT_EQ(u.getTransparency(), 0.5);
-    EXPECT_EQ(SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid"), surface);
+    EXPECT_EQ(surfaces.take(), 0);
     u.setTransparency(30, true);
-    EXPECT_NE(SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid"), surface);
+    EXPECT_EQ(surfaces.take(), 1);
 }
 
 TEST(HyperboloidFrameTest, SphereHasTheVertexsColourAndPlaceAndTheSharedShape) {
@@ -195,18 +273,12 @@ TEST(HyperboloidFrameTest, ChoosingAVertexTiesTheHelixToAllBrothers) {
 TEST(HyperboloidFrameTest, RefreshedHelixGetsTheUCoordinatesFromEveryFrame) {
     const OpenedWindow opened;
     HelixFrame& helix = opened.firstHelix();
-    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     for (int space = 0; space < 3; ++space) {
         const int index = 700 + space;
         opened.hyperboloid(space).SetPreviousHelix(&helix);
         opened.hyperboloid(space).refresh_helix(index);
-        EXPECT_EQ(helix.getIndex(), index);
-        const SbColor shown = color(u, index);
-        const Helix expected(u.getVertex(index, 0), u.getVertex(index, 1), u.getVertex(index, 2),
-                             shown[0], shown[1], shown[2]);
-        EXPECT_EQ(helix.getHelix().getLineVertices(), expected.getLineVertices());
-        EXPECT_EQ(helix.getHelix().getRibbonVertices(), expected.getRibbonVertices());
-        EXPECT_EQ(helix.getHelix().getHelixColor(), expected.getHelixColor());
+        expectHelixOfVertex(helix, u, index);
     }
 }
 

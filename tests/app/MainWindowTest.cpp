@@ -4,6 +4,7 @@
 #include "tests/support/SceneReader.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QSettings>
 #include <QStatusBar>
 #include <QWindow>
@@ -72,15 +73,44 @@ TEST(MainWindowTest, OpensWhereItWasClosed) {
 }
 
 TEST(MainWindowTest, UnreadableSettingsFallBackToTheDefaults) {
-    for (const QVariant& unreadable : {QVariant("garbage"), QVariant(17), QVariant(QSize(-1, -1)),
-                                       QVariant(QByteArray("\0\1", 2))}) {
+    const std::vector<QVariant> unreadable{
+        "garbage",  "@Point(31)",   QStringList{"31", "41"}, 7, QByteArray("\x01\x02"),
+        QVariant(), QColor(Qt::red)};
+    for (const QVariant& value : unreadable) {
+        SCOPED_TRACE(value.typeName());
         {
             QSettings settings("Trolltech", "MDI Viewer");
-            settings.setValue("pos", unreadable);
-            settings.setValue("size", unreadable);
+            settings.setValue("pos", value);
+            settings.setValue("size", value);
         }
         const MainWindow window;
         EXPECT_EQ(window.pos(), QPoint(200, 200));
+        EXPECT_EQ(window.size(), QSize(400, 400));
+    }
+    clearSettings();
+}
+
+TEST(MainWindowTest, PlaceAndSizeOfEachOthersKindFallBackToTheDefaults) {
+    {
+        QSettings settings("Trolltech", "MDI Viewer");
+        settings.setValue("pos", QSize(592, 653));
+        settings.setValue("size", QPoint(31, 41));
+    }
+    const MainWindow window;
+    EXPECT_EQ(window.pos(), QPoint(200, 200));
+    EXPECT_EQ(window.size(), QSize(400, 400));
+    clearSettings();
+}
+
+TEST(MainWindowTest, SizeThatIsNoneFallsBackToTheDefaultAloneAndKeepsThePlace) {
+    for (const QSize size : {QSize(), QSize(-5, 300), QSize(300, -5)}) {
+        {
+            QSettings settings("Trolltech", "MDI Viewer");
+            settings.setValue("pos", QPoint(31, 41));
+            settings.setValue("size", size);
+        }
+        const MainWindow window;
+        EXPECT_EQ(window.pos(), QPoint(31, 41));
         EXPECT_EQ(window.size(), QSize(400, 400));
     }
     clearSettings();

@@ -1,12 +1,11 @@
+#include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMetaMethod>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -33,25 +32,6 @@ QList<QAction*> windowEntries(const OpenedWindow& opened) {
     QMenu& windowMenu = menu(opened, "&Window");
     emit windowMenu.aboutToShow();
     return windowMenu.actions();
-}
-
-/** Runs something while the message box that an action opens is on the screen. */
-void answerBox(QAction& action, const std::function<void(QMessageBox&)>& answer) {
-    bool seen = false;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            seen = true;
-            poll.stop();
-            answer(*box);
-            box->accept();
-        }
-    });
-    poll.start(10);
-    action.trigger();
-    if (!seen) {
-        EXPECT_TRUE(waitUntil([&] { return seen; }));
-    }
 }
 
 } // namespace
@@ -192,6 +172,29 @@ TEST(MenusTest, EverythingButNewAndExitIsDisabledWithoutDocuments) {
     }
 }
 
+TEST(MenusTest, NextAndPreviousNeedASecondFrame) {
+    MainWindow window;
+    const auto expectEnabled = [&](bool enabled) {
+        for (const char* name : {"nextAct", "previousAct"}) {
+            EXPECT_EQ(window.findChild<QAction*>(name)->isEnabled(), enabled) << name;
+        }
+    };
+    const auto addFrame = [&](int space) {
+        EXPECT_TRUE(QMetaObject::invokeMethod(&window, "createHyperboloid", Q_ARG(int, space),
+                                              Q_ARG(const char*, "lone")));
+        QMdiArea& area = *window.findChild<QMdiArea*>();
+        QMdiSubWindow* added = area.subWindowList().constLast();
+        added->show();
+        EXPECT_TRUE(waitUntil([&] { return area.activeSubWindow() == added; }));
+    };
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window, patience));
+    addFrame(Hyperboloid::USPACE);
+    expectEnabled(false);
+    addFrame(Hyperboloid::XSPACE);
+    expectEnabled(true);
+}
+
 TEST(MenusTest, NextAndPreviousWalkThroughTheFrames) {
     const OpenedWindow opened;
     opened.activate(opened.hyperboloid(0));
@@ -217,17 +220,24 @@ TEST(MenusTest, CascadeOverlapsTheFramesAndTheShortcutTilesThemAgain) {
 
 TEST(MenusTest, AboutBoxHasItsTitleAndText) {
     const OpenedWindow opened;
-    answerBox(opened.action("aboutAct"), [](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), "About MDI");
-        EXPECT_EQ(box.text(), "The <b>Lumarin</b> example shows how to use multiple Coin3D viewers "
-                              "with SoQt.");
-    });
+    DialogDriver()
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), "About MDI");
+            EXPECT_EQ(box.text(), "The <b>Lumarin</b> example shows how to use multiple Coin3D "
+                                  "viewers with SoQt.");
+            box.accept();
+        })
+        .during([&] { opened.action("aboutAct").trigger(); });
 }
 
 TEST(MenusTest, AboutQtBoxOpens) {
     const OpenedWindow opened;
-    answerBox(opened.action("aboutQtAct"),
-              [](QMessageBox& box) { EXPECT_EQ(box.windowTitle(), "About Qt"); });
+    DialogDriver()
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), "About Qt");
+            box.accept();
+        })
+        .during([&] { opened.action("aboutQtAct").trigger(); });
 }
 
 TEST(MenusTest, SlotsStandInTheirOrder) {

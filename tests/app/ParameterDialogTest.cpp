@@ -1,5 +1,5 @@
 #include "app/HyperboloidParameters.h"
-#include "tests/support/ModalDialogs.h"
+#include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
@@ -58,7 +58,7 @@ void pressEscape(QWidget& dialog) {
 using Typed = std::vector<std::pair<QString, QString>>;
 
 /** Fills fields and accepts. */
-ModalDialogs::Step enter(const Typed& values) {
+DialogDriver::Step enter(const Typed& values) {
     return [values](QWidget& dialog) {
         for (const auto& [label, text] : values) {
             type(dialog, label, text);
@@ -67,8 +67,8 @@ ModalDialogs::Step enter(const Typed& values) {
     };
 }
 
-void answerParameters(const OpenedWindow& opened, const std::vector<ModalDialogs::Step>& steps) {
-    ModalDialogs::answer([&] { opened.action("hyperboloidParamsAct").trigger(); }, steps);
+void answerParameters(const OpenedWindow& opened, const std::vector<DialogDriver::Step>& steps) {
+    DialogDriver(steps).during([&] { opened.action("hyperboloidParamsAct").trigger(); });
 }
 
 /** The fifteen values that a space's model has now, in the order of refresh_hyperboloids(). */
@@ -121,7 +121,7 @@ void expectError(QWidget& dialog, const char* picturePath) {
     EXPECT_TRUE(ok->isDefault());
 }
 
-ModalDialogs::Step seeError(const char* picturePath) {
+DialogDriver::Step seeError(const char* picturePath) {
     return [picturePath](QWidget& dialog) {
         expectError(dialog, picturePath);
         click(dialog, "Ok");
@@ -357,12 +357,12 @@ TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
     }
     drawings.push_back(
         std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(), "Helix_Tube"));
-    const std::vector<ModalDialogs::Step> waysOut{[](QWidget& dialog) { click(dialog, "Cancel"); },
+    const std::vector<DialogDriver::Step> waysOut{[](QWidget& dialog) { click(dialog, "Cancel"); },
                                                   [](QWidget& dialog) { pressEscape(dialog); },
                                                   [](QWidget& dialog) {
                                                       dialog.close();
                                                   }};
-    for (const ModalDialogs::Step& leave : waysOut) {
+    for (const DialogDriver::Step& leave : waysOut) {
         answerParameters(opened, {[&](QWidget& dialog) {
                              type(dialog, "K1 :", "1.2");
                              type(dialog, "Vertical Prec:", "7");
@@ -424,7 +424,7 @@ TEST(ParameterDialogTest, EnterAndEscapeCloseTheErrorBox) {
 TEST(ParameterDialogTest, RefusedRetriesLeaveNothingBehind) {
     constexpr int retries = 50;
     const OpenedWindow opened;
-    std::vector<ModalDialogs::Step> steps;
+    std::vector<DialogDriver::Step> steps;
     int topLevels = 0;
     int children = 0;
     for (int i = 0; i < retries; ++i) {
@@ -516,9 +516,10 @@ TEST(ParameterDialogTest, WorksWithoutAnyHelix) {
 
 TEST(ParameterDialogTest, ShortcutOpensIt) {
     const OpenedWindow opened;
-    ModalDialogs::answer([&] { QTest::keyClick(&opened.window(), Qt::Key_P, Qt::ControlModifier); },
-                         {[](QWidget& dialog) {
-                             EXPECT_EQ(field(dialog, "K2 :").text(), "1.50");
-                             pressEscape(dialog);
-                         }});
+    DialogDriver()
+        .then<QDialog>([](QDialog& dialog) {
+            EXPECT_EQ(field(dialog, "K2 :").text(), "1.50");
+            pressEscape(dialog);
+        })
+        .during([&] { QTest::keyClick(&opened.window(), Qt::Key_P, Qt::ControlModifier); });
 }

@@ -102,6 +102,18 @@ TEST(HelixParameters, PhiRuleAnswersForTheStoredCurvature) {
     EXPECT_TRUE(std::isnan(helix.phi_from_u(6, 1)));
 }
 
+TEST(HelixParameters, PhiOfACurvatureThatSinglePrecisionCannotHoldIsTheFirstCoordinate) {
+    // The squares of the coordinates overflow to infinity here...
+    Helix helix;
+    EXPECT_TRUE(helix.refresh_param(1e20F, 1, 0, 0, 0, 0));
+    EXPECT_EQ(helix.getCurvature(), std::numeric_limits<float>::infinity());
+    EXPECT_EQ(helix.getPhi(), 1e20F);
+    // ...and vanish here.
+    EXPECT_FALSE(helix.refresh_param(1e-30F, 0, 1, 0, 0, 0));
+    EXPECT_EQ(helix.getCurvature(), 0);
+    EXPECT_EQ(helix.getPhi(), 1e-30F);
+}
+
 TEST(HelixParameters, StraightRodIsReportedAndStaysDrawable) {
     Helix helix;
     EXPECT_FALSE(helix.refresh_param(0, 0, 2, 1, 1, 1));

@@ -43,7 +43,7 @@ Matrice counting() {
 Matrice withFourColumns() {
     Matrice m;
     for (int i = 0; i < 3; ++i) {
-        m[i].ajoute(0);
+        m[i].ajoute(i + 7);
     }
     return m;
 }
@@ -185,6 +185,12 @@ TEST(Matrice, SizesThatDoNotFitThrowTheirTexts) {
     EXPECT_EQ(thrownBy([&] { m - wide; }), "Difference matrice Erreur: dimensions pas egales.");
 }
 
+TEST(Matrice, ProductRunsItsFirstIndexOverTheColumnsOfTheSecondFactor) {
+    // The fourth column of the second factor so becomes a fourth row of the product.
+    Matrice m;
+    EXPECT_EQ(thrownBy([&] { m* withFourColumns(); }), "Surcharge [] Erreur: dimension fausse.");
+}
+
 TEST(Matrice, RowOfAnotherLengthFailsInTheRow) {
     Matrice m;
     Matrice uneven;
@@ -209,6 +215,12 @@ TEST(Matrice, PrintsThreeLinesInBrackets) {
     EXPECT_EQ(printed(Matrice()), "[ [  1.00000  0.00000  0.00000 ]\n"
                                   "  [  0.00000  1.00000  0.00000 ]\n"
                                   "  [  0.00000  0.00000  1.00000 ] ]\n");
+}
+
+TEST(Matrice, PrintsWholeRowsButOnlyThreeValuesOfTheLast) {
+    EXPECT_EQ(printed(withFourColumns()), "[ [  1.00000  0.00000  0.00000  7.00000 ]\n"
+                                          "  [  0.00000  1.00000  0.00000  8.00000 ]\n"
+                                          "  [  0.00000  0.00000  1.00000 ] ]\n");
 }
 
 TEST(Matrice, PrintsInTheStreamsPrecisionAndClearsTheFlag) {

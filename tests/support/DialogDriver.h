@@ -1,44 +1,57 @@
 #pragma once
 
+#include "tests/support/Waiting.h"
+
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 /**
- * Answers the modal dialogs that come up while something runs, one step after the other: each step
- * waits for a dialog of its type and is handed the dialog.
+ * A user in front of the modal dialogs that come up while something runs: every step is handed the
+ * next one and is expected to close it.
  */
 class DialogDriver {
 public:
-    /** Adds a step for the next dialog of a type. */
+    using Step = std::function<void(QWidget&)>;
+
+    DialogDriver() = default;
+    explicit DialogDriver(std::vector<Step> all)
+        : steps(std::move(all)) {}
+    DialogDriver(const DialogDriver&) = delete;
+    DialogDriver& operator=(const DialogDriver&) = delete;
+
+    /** Adds a step for the next dialog, which must be of a type. */
     template <typename Dialog>
     DialogDriver& then(std::function<void(Dialog&)> answer) {
-        steps.push_back([answer] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || !dialog->isVisible()) {
-                return false;
+        steps.push_back([answer](QWidget& widget) {
+            if (auto* dialog = qobject_cast<Dialog*>(&widget)) {
+                answer(*dialog);
+            } else {
+                ADD_FAILURE() << "unexpected dialog " << widget.metaObject()->className();
             }
-            answer(*dialog);
-            return true;
         });
         return *this;
     }
 
-    /** Runs something that opens the dialogs, and expects that every step had its turn. */
+    /** Runs something that opens as many dialogs as there are steps. */
     void during(const std::function<void()>& action) {
         scheduleLook();
         action();
-        EXPECT_EQ(next, steps.size()) << "dialogs that did not come up";
+        EXPECT_TRUE(waitUntil([this] { return next == steps.size(); }))
+            << "only " << next << " dialogs came up";
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
 
 private:
-    static constexpr int pollInterval = 10;
-    static constexpr int patienceForUnexpected = 100;
+    static constexpr int pollInterval = 5;
 
-    /** Each look is a timer of its own: an answer may open the next dialog before it returns. */
+    /** Each look is a timer of its own: a step may open the next dialog before it returns. */
     void scheduleLook() {
         QTimer::singleShot(pollInterval, &life, [this] {
             scheduleLook();
@@ -47,29 +60,34 @@ private:
     }
 
     void look() {
-        if (next < steps.size()) {
-            const std::size_t current = next++;
-            if (!steps[current]()) {
-                next = current;
-            }
-        } else {
-            endUnexpectedDialog();
+        const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        // Only an active window has a focus for keys.
+        if (dialog.isNull() || !dialog->isActiveWindow() || isKnown(dialog)) {
+            return;
         }
-    }
-
-    /** A dialog that no step asked for would block the test for ever. */
-    void endUnexpectedDialog() {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr && dialog->isVisible() && ++unexpected > patienceForUnexpected) {
-            ADD_FAILURE() << "unexpected dialog " << dialog->metaObject()->className();
+        known.push_back(dialog);
+        if (next == steps.size()) {
+            ADD_FAILURE() << "a dialog too many: " << dialog->metaObject()->className();
             dialog->close();
-            unexpected = 0;
+            return;
+        }
+        const Step step = steps[next];
+        ++next;
+        step(*dialog);
+        if (!dialog.isNull() && dialog->isVisible()) {
+            ADD_FAILURE() << "a step left its " << dialog->metaObject()->className() << " open";
+            dialog->close();
         }
     }
 
-    std::vector<std::function<bool()>> steps;
+    bool isKnown(const QWidget* dialog) const {
+        return std::find(known.begin(), known.end(), dialog) != known.end();
+    }
+
+    std::vector<Step> steps;
     std::size_t next = 0;
+    /** The dialogs that had their step. Null once one is gone: another may take its address. */
+    std::vector<QPointer<QWidget>> known;
     /** No look outlives the driver. */
     QObject life;
-    int unexpected = 0;
 };
