@@ -143,12 +143,20 @@ void MainWindow::setUpMainViewer() {
     mdiArea->tileSubWindows();
 }
 
+void MainWindow::addDocument(SoQtGeneralViewerFrame* frame, const char* viewerTitle) {
+    // Its viewer shows the frame while that has no parent yet. On the screen it would flash, and a
+    // window manager that takes it in hand while it moves into the area can destroy it.
+    frame->setAttribute(Qt::WA_DontShowOnScreen);
+    frame->initialize();
+    frame->setTitle(viewerTitle);
+    mdiArea->addSubWindow(frame);
+    frame->setAttribute(Qt::WA_DontShowOnScreen, false);
+}
+
 HyperboloidFrame* MainWindow::createHyperboloid(int space, const char* name) {
     auto* frame =
         new HyperboloidFrame(1.0F, 1.5F, 1.0F, 0.5F, 0.5F, 1.0F, 0.0F, 0.0F, space, false, this);
-    frame->initialize();
-    frame->setTitle(name);
-    mdiArea->addSubWindow(frame);
+    addDocument(frame, name);
     return frame;
 }
 
@@ -157,9 +165,7 @@ HelixFrame* MainWindow::createHelix(bool closable) {
     auto* frame =
         new HelixFrame(u.getVertex(0, 0), u.getVertex(0, 1), u.getVertex(0, 2), u.getColor(0, 0),
                        u.getColor(0, 1), u.getColor(0, 2), 0, closable, this);
-    frame->initialize();
-    frame->setTitle("Helix Viewer");
-    mdiArea->addSubWindow(frame);
+    addDocument(frame, "Helix Viewer");
     ++helixCount;
     return frame;
 }

@@ -128,6 +128,8 @@ private:
      * when the window went on after a helix had refused to be closed with it.
      */
     std::vector<HyperboloidFrame*> openHyperboloids() const;
+    /** Initialises a new frame, titles its viewer and takes it into the document area, hidden. */
+    void addDocument(SoQtGeneralViewerFrame* frame, const char* viewerTitle);
 
     QMdiArea* mdiArea = nullptr;
     QSignalMapper* windowMapper = nullptr;

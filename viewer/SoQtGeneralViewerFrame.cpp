@@ -124,7 +124,7 @@ void SoQtGeneralViewerFrame::createViewer() {
     viewer->lightBothSides();
     viewer->setFeedbackVisibility(TRUE);
     enableMultisampling();
-    showViewer();
+    viewer->show();
 }
 
 void SoQtGeneralViewerFrame::enableMultisampling() {
@@ -135,15 +135,6 @@ void SoQtGeneralViewerFrame::enableMultisampling() {
     widget->setFormat(format);
     widget->makeCurrent();
     glEnable(GL_MULTISAMPLE);
-}
-
-void SoQtGeneralViewerFrame::showViewer() {
-    setAttribute(Qt::WA_DontShowOnScreen);
-    viewer->show();
-    // From here on as if never shown: a frame hidden on purpose would get no room as a document.
-    hide();
-    setAttribute(Qt::WA_WState_ExplicitShowHide, false);
-    setAttribute(Qt::WA_DontShowOnScreen, false);
 }
 
 void SoQtGeneralViewerFrame::setTitle(const char* text) {

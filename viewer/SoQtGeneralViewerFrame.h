@@ -135,12 +135,6 @@ private:
     void buildScene();
     void createViewer();
     void enableMultisampling();
-    /**
-     * Shows the viewer, which shows the window around it: that is this frame as long as it has no
-     * parent. The frame itself stays off the screen until it is a document: there it would flash,
-     * and a window manager that takes it in hand while it moves can destroy it.
-     */
-    void showViewer();
 
     QString lastViewerTitle;
 };
