@@ -1,5 +1,6 @@
 #include "tests/viewer/ShownFrame.h"
 
+#include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoEnvironment.h>
 #include <Inventor/nodes/SoFont.h>
@@ -159,11 +160,40 @@ TEST(GeneralViewerFrame, ViewerStartsOrthographicWithItsSettings) {
     EXPECT_FALSE(viewer.isTopLevelShell());
 }
 
+TEST(GeneralViewerFrame, ViewerKeepsWhatABareExaminerHasOtherwise) {
+    ShownFrame frame;
+    frame.initialize();
+    const SoQtGeneralViewer& viewer = *frame.getViewer();
+    QWidget around;
+    const SoQtExaminerViewer bare(&around);
+    EXPECT_EQ(viewer.getBackgroundColor(), bare.getBackgroundColor());
+    EXPECT_EQ(viewer.getBufferingType(), bare.getBufferingType());
+    EXPECT_EQ(viewer.isDoubleBuffer(), bare.isDoubleBuffer());
+    EXPECT_EQ(viewer.getStereoType(), bare.getStereoType());
+    EXPECT_EQ(viewer.getTransparencyType(), bare.getTransparencyType());
+    EXPECT_EQ(viewer.getDrawStyle(SoQtViewer::STILL), bare.getDrawStyle(SoQtViewer::STILL));
+    EXPECT_EQ(viewer.isAnimationEnabled(), bare.isAnimationEnabled());
+    EXPECT_EQ(viewer.isAutoRedraw(), bare.isAutoRedraw());
+    EXPECT_EQ(viewer.getHeadlight()->direction.getValue(),
+              bare.getHeadlight()->direction.getValue());
+    EXPECT_EQ(viewer.getHeadlight()->intensity.getValue(),
+              bare.getHeadlight()->intensity.getValue());
+}
+
+TEST(GeneralViewerFrame, ViewerIsNamedLikeItsFrame) {
+    ShownFrame frame;
+    const std::string title = frame.windowTitle().toStdString();
+    frame.initialize();
+    EXPECT_EQ(frame.getViewer()->getWidgetName(), title);
+}
+
 TEST(GeneralViewerFrame, ViewIsDrawnWithFourSamplesAPixel) {
     const FrameOnScreen shown;
-    const auto& widget = dynamic_cast<QGLWidget&>(shown.driver().widget());
+    auto& widget = dynamic_cast<QGLWidget&>(shown.driver().widget());
     EXPECT_TRUE(widget.format().sampleBuffers());
     EXPECT_EQ(widget.format().samples(), 4);
+    widget.makeCurrent();
+    EXPECT_TRUE(glIsEnabled(GL_MULTISAMPLE));
 }
 
 TEST(GeneralViewerFrame, ShowsItsSceneAfterEveryChangeOfSize) {
