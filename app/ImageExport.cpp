@@ -10,27 +10,8 @@
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoShapeHints.h>
-#include <clocale>
 
 namespace {
-
-/** While it lives, C output functions write numbers with a decimal point. */
-class DecimalPoint {
-public:
-    DecimalPoint()
-        : numbers(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE)))
-        , previous(uselocale(numbers)) {}
-    ~DecimalPoint() {
-        uselocale(previous);
-        freelocale(numbers);
-    }
-    DecimalPoint(const DecimalPoint&) = delete;
-    DecimalPoint& operator=(const DecimalPoint&) = delete;
-
-private:
-    locale_t numbers;
-    locale_t previous;
-};
 
 /**
  * The scene under the viewer's lighting and camera, which are not part of the scene itself.
@@ -76,6 +57,5 @@ bool ImageExport::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerV
     if (renderer.render(asSeenBy(*viewer, root).get()) == FALSE) {
         return false;
     }
-    const DecimalPoint decimalPoint;
     return renderer.writeToPostScript(file) != FALSE && std::fflush(file) == 0;
 }

@@ -215,6 +215,8 @@ TEST(HelixWindowTest, TurnsSliderAtThreeGivesThreeTurnsOfFiftyVertices) {
 
 TEST(HelixWindowTest, BoundsHoldAndTheirHelixIsDrawn) {
     const OpenedWindow opened;
+    const ViewDriver view(opened.firstHelix());
+    const QImage before = view.grab();
     const SliderWindow window = openHelixWindow(opened);
     window.type(precisionLine, "999");
     window.type(precisionTube, "999");
@@ -230,7 +232,8 @@ TEST(HelixWindowTest, BoundsHoldAndTheirHelixIsDrawn) {
     EXPECT_EQ(modelOf(opened).getTubeR(), 0.1F);
     EXPECT_EQ(modelOf(opened).getRibRange(), 0.2F);
     EXPECT_EQ(modelOf(opened).getTubeVertices().size(), 10U * 200U * 100U);
-    EXPECT_TRUE(ViewDriver(opened.firstHelix()).isDrawn());
+    EXPECT_TRUE(waitUntil([&] { return view.grab() != before; }));
+    EXPECT_TRUE(view.isDrawn());
 }
 
 TEST(HelixWindowTest, NoTurnsLeaveNothingAndTurnsComeBack) {

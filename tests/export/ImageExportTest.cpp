@@ -247,12 +247,14 @@ TEST_F(ImageExportTest, NumbersHaveADecimalPointInEveryLocale) {
     save(opened.hyperboloid(0), path());
     const QByteArray expected = saved();
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     save(opened.hyperboloid(0), path());
     std::setlocale(LC_ALL, "C");
     const auto withoutDates = [](QByteArray file) {
         return QString::fromLatin1(file).remove(QRegularExpression("%%CreationDate[^\n]*\n"));
     };
     EXPECT_EQ(withoutDates(saved()), withoutDates(expected));
+    EXPECT_TRUE(QRegularExpression("/image_dpi \\d+\\.\\d+ def").match(saved()).hasMatch());
 }
 
 TEST_F(ImageExportTest, ViewsAndCurrentContextAreLeftAlone) {
