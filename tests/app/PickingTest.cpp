@@ -147,13 +147,17 @@ constexpr SoMouseButtonEvent::Button middleButton = SoMouseButtonEvent::BUTTON3;
 
 } // namespace
 
-class PickingIn : public testing::TestWithParam<int> {};
+/** The space's frame, with the first helix tied to it. */
+class PickingIn : public testing::TestWithParam<int> {
+protected:
+    PickingIn() { opened.tie(helix, frame); }
 
-TEST_P(PickingIn, RightButtonMovesTheSphereInAllSpacesAndReshapesTheHelix) {
     const OpenedWindow opened;
     HyperboloidFrame& frame = opened.hyperboloid(GetParam());
     HelixFrame& helix = opened.firstHelix();
-    opened.tie(helix, frame);
+};
+
+TEST_P(PickingIn, RightButtonMovesTheSphereInAllSpacesAndReshapesTheHelix) {
     const Target target = findTarget(frame);
     ViewDriver(frame).click(Qt::RightButton, target.position);
     expectHelixOfVertex(helix, opened.hyperboloid(Hyperboloid::USPACE), target.index);
@@ -167,34 +171,24 @@ TEST_P(PickingIn, RightButtonMovesTheSphereInAllSpacesAndReshapesTheHelix) {
 }
 
 TEST_P(PickingIn, LeftButtonPicksInPickingModeOnly) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    opened.tie(opened.firstHelix(), frame);
     const Target target = findTarget(frame);
     const ViewDriver driver(frame);
     driver.click(Qt::LeftButton, target.position);
-    EXPECT_EQ(opened.firstHelix().getIndex(), 0);
+    EXPECT_EQ(helix.getIndex(), 0);
     driver.setPickingMode(true);
     driver.click(Qt::LeftButton, target.position);
-    EXPECT_EQ(opened.firstHelix().getIndex(), target.index);
+    EXPECT_EQ(helix.getIndex(), target.index);
 }
 
 TEST_P(PickingIn, MiddleButtonPicksInPickingMode) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    opened.tie(opened.firstHelix(), frame);
     const Target target = findTarget(frame);
     const ViewDriver driver(frame);
     driver.setPickingMode(true);
     driver.click(Qt::MiddleButton, target.position);
-    EXPECT_EQ(opened.firstHelix().getIndex(), target.index);
+    EXPECT_EQ(helix.getIndex(), target.index);
 }
 
 TEST_P(PickingIn, BackgroundAndDecorationsAreNoVertices) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    HelixFrame& helix = opened.firstHelix();
-    opened.tie(helix, frame);
     const QPoint onSphere = bringSphereToTheFront(frame, helix);
     const int index = helix.getIndex();
     const ViewDriver driver(frame);
@@ -208,10 +202,6 @@ TEST_P(PickingIn, BackgroundAndDecorationsAreNoVertices) {
 }
 
 TEST_P(PickingIn, PicksOnTheReleaseOnlyAndConsumesIt) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    HelixFrame& helix = opened.firstHelix();
-    opened.tie(helix, frame);
     const Target target = findTarget(frame);
     for (const bool picking : {false, true}) {
         ViewDriver(frame).setPickingMode(picking);
@@ -229,9 +219,6 @@ TEST_P(PickingIn, PicksOnTheReleaseOnlyAndConsumesIt) {
 }
 
 TEST_P(PickingIn, ReleaseWithoutATiedHelixGoesOnToTheExaminer) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    opened.activate(frame);
     const Target target = findTarget(frame);
     frame.PrevHelixDead();
     for (const bool picking : {false, true}) {
@@ -240,17 +227,14 @@ TEST_P(PickingIn, ReleaseWithoutATiedHelixGoesOnToTheExaminer) {
             EXPECT_EQ(sendButton(frame, button, SoButtonEvent::UP, target.position), 0);
         }
     }
-    EXPECT_EQ(opened.firstHelix().getIndex(), 0);
+    EXPECT_EQ(helix.getIndex(), 0);
 }
 
 TEST_P(PickingIn, NothingHappensWithoutATiedHelix) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    opened.activate(frame);
     const Target target = findTarget(frame);
     frame.PrevHelixDead();
     ViewDriver(frame).click(Qt::RightButton, target.position);
-    EXPECT_EQ(opened.firstHelix().getIndex(), 0);
+    EXPECT_EQ(helix.getIndex(), 0);
 }
 
 TEST_P(PickingIn, EveryDirectionKeySteps) {
@@ -259,10 +243,6 @@ TEST_P(PickingIn, EveryDirectionKeySteps) {
         Qt::KeyboardModifier modifier;
         int direction;
     };
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    HelixFrame& helix = opened.firstHelix();
-    opened.tie(helix, frame);
     const QWidget& widget = ViewDriver(frame).widget();
     for (const Step& step : {Step{Qt::Key_W, Qt::NoModifier, HyperboloidFrame::UP},
                              Step{Qt::Key_Up, Qt::NoModifier, HyperboloidFrame::UP},
@@ -287,13 +267,10 @@ TEST_P(PickingIn, EveryDirectionKeySteps) {
 }
 
 TEST_P(PickingIn, DirectionKeyWithoutATiedHelixNeverReachesTheExaminer) {
-    const OpenedWindow opened;
-    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
-    opened.activate(frame);
     frame.PrevHelixDead();
     ViewDriver(frame).key(Qt::Key_S);
     EXPECT_FALSE(frame.getViewer()->isSeekMode());
-    EXPECT_EQ(opened.firstHelix().getIndex(), 0);
+    EXPECT_EQ(helix.getIndex(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(EverySpace, PickingIn, testing::Values(0, 1, 2));
