@@ -56,6 +56,8 @@ TEST(Program, ViewIsDrawnInItsPlaceUnderTheUsersScaling) {
     ASSERT_TRUE(viewer.waitForWindow());
     // The helix is in front; only this view has room.
     EXPECT_TRUE(viewer.waitUntilColoured(QRect(80, 90, 700, 550)));
+    viewer.terminate();
+    EXPECT_TRUE(viewer.waitForEnd());
 }
 
 TEST(Program, RightButtonOnTheSurfaceMovesTheSphereEverywhere) {

@@ -182,9 +182,9 @@ TEST(GeneralViewerFrame, ViewerKeepsWhatABareExaminerHasOtherwise) {
 
 TEST(GeneralViewerFrame, ViewerIsNamedLikeItsFrame) {
     ShownFrame frame;
-    const std::string title = frame.windowTitle().toStdString();
+    const QString title = frame.windowTitle();
     frame.initialize();
-    EXPECT_EQ(frame.getViewer()->getWidgetName(), title);
+    EXPECT_EQ(frame.getViewer()->getWidget()->objectName(), title);
 }
 
 TEST(GeneralViewerFrame, ViewIsDrawnWithFourSamplesAPixel) {
