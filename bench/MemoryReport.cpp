@@ -6,6 +6,7 @@
 #include "app/MainWindow.h"
 #include "app/StartUp.h"
 #include "hyperboloid/HyperboloidFrame.h"
+#include "tests/support/ResidentMemory.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
@@ -15,7 +16,6 @@
 #include <QProcess>
 #include <QTest>
 #include <cstdio>
-#include <fstream>
 #include <malloc.h>
 #include <memory>
 #include <unistd.h>
@@ -32,9 +32,7 @@ constexpr double floatsPerVertex = 3 + 3 + 1 + 3 + 3 * 3;
 
 double residentMegabytes() {
     malloc_trim(0);
-    long pages = 0;
-    std::ifstream("/proc/self/statm") >> pages >> pages;
-    return static_cast<double>(pages * sysconf(_SC_PAGESIZE)) / 1e6;
+    return static_cast<double>(residentBytes()) / 1e6;
 }
 
 void report(const char* what) {

@@ -1,6 +1,7 @@
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
+#include "tests/support/Spheres.h"
 #include "tests/support/VertexHelix.h"
 
 #include <Inventor/nodes/SoCone.h>
@@ -24,11 +25,6 @@ SoSeparator& drawStyleBranch(const HyperboloidFrame& frame) {
 
 std::string nameOf(const HelixFrame& helix) {
     return helix.getName().getString();
-}
-
-SbVec3f spherePosition(const HyperboloidFrame& frame, const HelixFrame& helix) {
-    const SoSeparator* sphere = SceneReader::childNamed(phongBranch(frame), helix.getName());
-    return SceneReader::child<SoTransform>(*sphere, 1)->translation.getValue();
 }
 
 SbVec3f vertex(HyperboloidFrame& frame, int index) {
@@ -200,14 +196,11 @@ TEST(HyperboloidFrameTest, RedrawWithNewTablesTakesOverTheNewGrid) {
 }
 
 TEST(HyperboloidFrameTest, BecomingBrothersBringsTheColoursOfUIntoTheScene) {
-    HyperboloidFrame u(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::USPACE, true, nullptr);
-    HyperboloidFrame x(1, 1.5F, 1, 0.5F, 0.5F, 1, 0, 0, Hyperboloid::XSPACE, true, nullptr);
-    u.initialize();
-    x.initialize();
-    x.setBrother(&u, &x, nullptr);
-    EXPECT_EQ(color(x, 100), color(u, 100));
-    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(x), "Hyperboloid");
-    EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor[100], color(u, 100));
+    LoneFrame u(Hyperboloid::USPACE);
+    LoneFrame x(Hyperboloid::XSPACE);
+    x.frame.setBrother(&u.frame, &x.frame, nullptr);
+    EXPECT_EQ(color(x.frame, 100), color(u.frame, 100));
+    EXPECT_EQ(shownColor(x.frame, 100), color(u.frame, 100));
 }
 
 TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {

@@ -40,6 +40,19 @@ void clearSettings() {
     QSettings("Trolltech", "MDI Viewer").clear();
 }
 
+void store(const QVariant& position, const QVariant& size) {
+    QSettings settings("Trolltech", "MDI Viewer");
+    settings.setValue("pos", position);
+    settings.setValue("size", size);
+}
+
+/** Expects where a new window opens. */
+void expectOpensAt(QPoint position, QSize size) {
+    const MainWindow window;
+    EXPECT_EQ(window.pos(), position);
+    EXPECT_EQ(window.size(), size);
+}
+
 bool hasSphere(const HyperboloidFrame& frame, const SbName& name) {
     return SceneReader::childNamed(SceneReader::phongBranch(*frame.getSceneRoot()), name) !=
            nullptr;
@@ -66,9 +79,7 @@ TEST(MainWindowTest, OpensWhereItWasClosed) {
     const QSettings settings("Trolltech", "MDI Viewer");
     EXPECT_EQ(settings.value("pos").toPoint(), QPoint(31, 41));
     EXPECT_EQ(settings.value("size").toSize(), QSize(592, 653));
-    const MainWindow next;
-    EXPECT_EQ(next.pos(), QPoint(31, 41));
-    EXPECT_EQ(next.size(), QSize(592, 653));
+    expectOpensAt(QPoint(31, 41), QSize(592, 653));
     clearSettings();
 }
 
@@ -78,40 +89,22 @@ TEST(MainWindowTest, UnreadableSettingsFallBackToTheDefaults) {
         QVariant(), QColor(Qt::red)};
     for (const QVariant& value : unreadable) {
         SCOPED_TRACE(value.typeName());
-        {
-            QSettings settings("Trolltech", "MDI Viewer");
-            settings.setValue("pos", value);
-            settings.setValue("size", value);
-        }
-        const MainWindow window;
-        EXPECT_EQ(window.pos(), QPoint(200, 200));
-        EXPECT_EQ(window.size(), QSize(400, 400));
+        store(value, value);
+        expectOpensAt(QPoint(200, 200), QSize(400, 400));
     }
     clearSettings();
 }
 
 TEST(MainWindowTest, PlaceAndSizeOfEachOthersKindFallBackToTheDefaults) {
-    {
-        QSettings settings("Trolltech", "MDI Viewer");
-        settings.setValue("pos", QSize(592, 653));
-        settings.setValue("size", QPoint(31, 41));
-    }
-    const MainWindow window;
-    EXPECT_EQ(window.pos(), QPoint(200, 200));
-    EXPECT_EQ(window.size(), QSize(400, 400));
+    store(QSize(592, 653), QPoint(31, 41));
+    expectOpensAt(QPoint(200, 200), QSize(400, 400));
     clearSettings();
 }
 
 TEST(MainWindowTest, SizeThatIsNoneFallsBackToTheDefaultAloneAndKeepsThePlace) {
     for (const QSize size : {QSize(), QSize(-5, 300), QSize(300, -5)}) {
-        {
-            QSettings settings("Trolltech", "MDI Viewer");
-            settings.setValue("pos", QPoint(31, 41));
-            settings.setValue("size", size);
-        }
-        const MainWindow window;
-        EXPECT_EQ(window.pos(), QPoint(31, 41));
-        EXPECT_EQ(window.size(), QSize(400, 400));
+        store(QPoint(31, 41), size);
+        expectOpensAt(QPoint(31, 41), QSize(400, 400));
     }
     clearSettings();
 }

@@ -3,6 +3,7 @@
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
+#include "tests/support/Spheres.h"
 
 #include <QBoxLayout>
 #include <QDialog>
@@ -126,13 +127,6 @@ DialogDriver::Step seeError(const char* picturePath) {
         expectError(dialog, picturePath);
         click(dialog, "Ok");
     };
-}
-
-/** The place of a helix's sphere in a space. */
-SbVec3f spherePosition(const HyperboloidFrame& frame, const HelixFrame& helix) {
-    const SoSeparator* sphere =
-        SceneReader::childNamed(SceneReader::phongBranch(*frame.getSceneRoot()), helix.getName());
-    return SceneReader::child<SoTransform>(*sphere, 1)->translation.getValue();
 }
 
 void expectTiedTo(const OpenedWindow& opened, const HelixFrame& helix, int index) {

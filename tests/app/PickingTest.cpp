@@ -1,5 +1,6 @@
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/SceneReader.h"
+#include "tests/support/Spheres.h"
 #include "tests/support/VertexHelix.h"
 
 #include "viewer/SoQtGeneralViewer.h"
@@ -75,12 +76,6 @@ Target findTarget(const HyperboloidFrame& frame) {
     }
     ADD_FAILURE() << "the surface is nowhere in front";
     return {0, QPoint()};
-}
-
-SbVec3f spherePosition(const HyperboloidFrame& frame, const HelixFrame& helix) {
-    const SoSeparator* sphere =
-        SceneReader::childNamed(SceneReader::phongBranch(*frame.getSceneRoot()), helix.getName());
-    return SceneReader::child<SoTransform>(*sphere, 1)->translation.getValue();
 }
 
 /** Moves a helix to a vertex whose sphere is in front of the surface; the sphere's place. */

@@ -167,11 +167,3 @@ TEST(HelixParameters, HugeCountsAreCut) {
     helix.setNTurns(1e30F);
     EXPECT_EQ(helix.getNbLineVertices(), std::numeric_limits<unsigned int>::max());
 }
-
-TEST(HelixParameters, AngleIsU1WhereNoQuarterApplies) {
-    Helix helix;
-    EXPECT_TRUE(helix.refresh_param(1e20F, 1, 0, 0, 0, 0)) << "infinite curvature";
-    EXPECT_EQ(helix.getPhi(), 1e20F);
-    EXPECT_FALSE(helix.refresh_param(1e-30F, 0, 1, 0, 0, 0)) << "no curvature is left";
-    EXPECT_EQ(helix.getPhi(), 1e-30F);
-}

@@ -3,16 +3,15 @@
 #include "tests/support/FileDialogs.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/RedrawCounter.h"
+#include "tests/support/ResidentMemory.h"
 #include "viewer/SoQtGeneralViewer.h"
 
 #include <QPixmapCache>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <malloc.h>
-#include <unistd.h>
 
 namespace {
 
@@ -24,19 +23,17 @@ constexpr long unrest = 300000000;
 constexpr long unrest = 6000000;
 #endif
 
-long residentBytes() {
+long lastingBytes() {
     // What is free already must not count, nor a cache that has not reached its limit yet: the
     // pictures on a viewer's buttons stay in the toolkit's one, which holds ten megabytes at most.
     QPixmapCache::clear();
     malloc_trim(0);
-    long pages = 0;
-    std::ifstream("/proc/self/statm") >> pages >> pages;
-    return pages * sysconf(_SC_PAGESIZE);
+    return residentBytes();
 }
 
 /** What may not grow with the time that the program is used. */
 struct Holding {
-    long memory = residentBytes();
+    long memory = lastingBytes();
     std::map<std::string, unsigned int> resources = countServerResources();
 };
 

@@ -1,12 +1,10 @@
 #include "math/Matrice.h"
 
-#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 #include <sstream>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -230,20 +228,4 @@ TEST(Matrice, PrintsInTheStreamsPrecisionAndClearsTheFlag) {
     EXPECT_EQ(out.str(), "[ [  1.50  0.00  0.00 ]\n"
                          "  [  0.00  -2.00  0.00 ]\n"
                          "  [  0.00  0.00  1.00e+06 ] ]\n1");
-}
-
-TEST(Matrice, ProductTakesTheRowsOfTheSecondFactorAsItsColumnCount) {
-    Matrice m;
-    Matrice wide = withFourColumns();
-    EXPECT_EQ(thrownBy([&] { m* wide; }), "Surcharge [] Erreur: dimension fausse.");
-}
-
-TEST(Matrice, PrintsThreeValuesOfTheLastLineAndAllOfTheOthers) {
-    const std::string text = printed(withFourColumns());
-    std::istringstream lines(text);
-    std::vector<std::ptrdiff_t> values;
-    for (std::string line; std::getline(lines, line);) {
-        values.push_back(std::count(line.begin(), line.end(), '.'));
-    }
-    EXPECT_EQ(values, (std::vector<std::ptrdiff_t>{4, 4, 3}));
 }

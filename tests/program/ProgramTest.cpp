@@ -18,6 +18,29 @@ public:
     }
 };
 
+/** A display of the test's own. */
+class OwnDisplay {
+public:
+    OwnDisplay() {
+        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset"});
+        EXPECT_TRUE(server.waitForReadyRead());
+        displayName = ":" + QString(server.readLine()).trimmed();
+    }
+    ~OwnDisplay() {
+        server.terminate();
+        server.waitForFinished();
+    }
+    OwnDisplay(const OwnDisplay&) = delete;
+    OwnDisplay& operator=(const OwnDisplay&) = delete;
+
+    const QString& name() const { return displayName; }
+    void kill() { server.kill(); }
+
+private:
+    QProcess server;
+    QString displayName;
+};
+
 /** Expects that doing something changes the helix, all three surfaces' views and the status bar. */
 template <typename Action>
 void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
@@ -33,13 +56,17 @@ void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
     }
 }
 
-/** Expects that a termination signal ends the program as closing its window would. */
-void expectTerminatesInOrder(RunningViewer& viewer) {
-    viewer.terminate();
+/** Expects that the program ends, and ends well. */
+void expectGoodEnd(RunningViewer& viewer) {
     ASSERT_TRUE(viewer.waitForEnd());
     EXPECT_FALSE(viewer.crashed());
     EXPECT_EQ(viewer.exitCode(), 0);
-    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
+}
+
+/** Expects that the program ends well and has stored the size of its window. */
+void expectGoodEndAndStored(RunningViewer& viewer, const char* size) {
+    expectGoodEnd(viewer);
+    EXPECT_TRUE(viewer.storedSettings().contains(size));
 }
 
 } // namespace
@@ -119,9 +146,7 @@ TEST(Program, QuitShortcutEndsItCleanlyAndStoresTheGeometry) {
     TiedViewer viewer;
     viewer.key("ctrl+n");
     viewer.key("ctrl+q");
-    ASSERT_TRUE(viewer.waitForEnd());
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
+    expectGoodEnd(viewer);
     EXPECT_EQ(viewer.errors(), "");
     EXPECT_TRUE(viewer.storedSettings().contains("pos=@Point(0 0)"));
     EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
@@ -131,10 +156,7 @@ TEST(Program, TerminationSignalEndsItLikeClosingItsWindow) {
     RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
     ASSERT_TRUE(viewer.waitForWindow());
     viewer.terminate();
-    ASSERT_TRUE(viewer.waitForEnd());
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
-    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(400 400)"));
+    expectGoodEndAndStored(viewer, "size=@Size(400 400)");
 }
 
 TEST(Program, TerminationSignalEndsItWithADialogOpen) {
@@ -142,7 +164,8 @@ TEST(Program, TerminationSignalEndsItWithADialogOpen) {
     const QImage before = viewer.screen();
     viewer.key("ctrl+p");
     EXPECT_TRUE(viewer.waitUntilChanged(before.rect(), before));
-    expectTerminatesInOrder(viewer);
+    viewer.terminate();
+    expectGoodEndAndStored(viewer, "size=@Size(1000 800)");
 }
 
 TEST(Program, TerminationSignalEndsItWithTheErrorBoxOpen) {
@@ -158,59 +181,44 @@ TEST(Program, TerminationSignalEndsItWithTheErrorBoxOpen) {
     viewer.key("Return");
     EXPECT_TRUE(viewer.waitUntilLike(besideTheBox, uncovered));
     EXPECT_NE(viewer.screen(), before);
-    expectTerminatesInOrder(viewer);
+    viewer.terminate();
+    expectGoodEndAndStored(viewer, "size=@Size(1000 800)");
 }
 
 TEST(Program, TerminationSignalDuringStartUpEndsIt) {
     RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
     EXPECT_TRUE(viewer.waitForAnyWindow());
     viewer.terminate();
-    ASSERT_TRUE(viewer.waitForEnd());
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
+    expectGoodEnd(viewer);
 }
 
 TEST(Program, ClosingItDuringStartUpEndsIt) {
     RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
     ASSERT_TRUE(viewer.closeBeforeItIsShown());
-    ASSERT_TRUE(viewer.waitForEnd());
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
-    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(400 400)"));
+    expectGoodEndAndStored(viewer, "size=@Size(400 400)");
 }
 
 TEST(Program, LosingTheDisplayEndsItWithAMessage) {
-    QProcess server;
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24"});
-    ASSERT_TRUE(server.waitForReadyRead());
-    RunningViewer viewer(":" + QString(server.readLine()).trimmed());
+    OwnDisplay display;
+    RunningViewer viewer(display.name());
     ASSERT_TRUE(viewer.waitForWindow());
-    server.kill();
+    display.kill();
     ASSERT_TRUE(viewer.waitForEnd());
     EXPECT_NE(viewer.exitCode(), 0);
     EXPECT_NE(viewer.errors(), "");
 }
 
 TEST(Program, WindowManagerClosesItAndItsGeometryIsStored) {
-    QProcess server;
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset"});
-    ASSERT_TRUE(server.waitForReadyRead());
-    const QString display = ":" + QString(server.readLine()).trimmed();
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", display);
+    const OwnDisplay display;
     QProcess windowManager;
-    windowManager.setProcessEnvironment(environment);
+    windowManager.setProcessEnvironment(RunningViewer::environmentOn(display.name()));
     // It says so once it manages the display: a window shown before that could not be activated.
     windowManager.start("openbox", {"--startup", "echo ready"});
     ASSERT_TRUE(windowManager.waitForReadyRead());
-    RunningViewer viewer(display);
+    RunningViewer viewer(display.name());
     ASSERT_TRUE(viewer.waitForWindow());
     ASSERT_TRUE(viewer.keyUntilEnd("alt+F4"));
-    EXPECT_FALSE(viewer.crashed());
-    EXPECT_EQ(viewer.exitCode(), 0);
-    EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(400 400)"));
+    expectGoodEndAndStored(viewer, "size=@Size(400 400)");
     windowManager.terminate();
     windowManager.waitForFinished();
-    server.terminate();
-    server.waitForFinished();
 }

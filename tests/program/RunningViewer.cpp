@@ -75,13 +75,18 @@ RunningViewer::~RunningViewer() {
 }
 
 void RunningViewer::start() {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = environmentOn(display);
     environment.insert("XDG_CONFIG_HOME", home.path());
     environment.insert("XDG_RUNTIME_DIR", home.path());
-    environment.insert("DISPLAY", display);
     process.setProcessEnvironment(environment);
     process.start(TORVANE_PROGRAM, QStringList());
     process.waitForStarted();
+}
+
+QProcessEnvironment RunningViewer::environmentOn(const QString& display) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", display);
+    return environment;
 }
 
 QRect RunningViewer::quarter(int column, int row) const {
@@ -98,9 +103,7 @@ QRect RunningViewer::statusBar() const {
 
 std::optional<QString> RunningViewer::xdotool(const QStringList& arguments) const {
     QProcess tool;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", display);
-    tool.setProcessEnvironment(environment);
+    tool.setProcessEnvironment(environmentOn(display));
     tool.start("xdotool", arguments);
     if (!tool.waitForFinished() || tool.exitCode() != 0) {
         return std::nullopt;
@@ -182,7 +185,7 @@ bool RunningViewer::closeBeforeItIsShown() const {
 }
 
 bool RunningViewer::waitForEnd() {
-    return process.waitForFinished(patience);
+    return process.state() == QProcess::NotRunning || process.waitForFinished(patience);
 }
 
 bool RunningViewer::keyUntilEnd(const QString& name) {

@@ -18,6 +18,9 @@ public:
     RunningViewer(const RunningViewer&) = delete;
     RunningViewer& operator=(const RunningViewer&) = delete;
 
+    /** This process's environment with another display. */
+    static QProcessEnvironment environmentOn(const QString& display);
+
     // Where the four views are on the screen, after tiling.
     QRect helixView() const { return quarter(0, 0); }
     QRect mView() const { return quarter(1, 0); }

@@ -12,6 +12,7 @@
 #include "tests/random/Shrinking.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/RedrawCounter.h"
+#include "tests/support/ResidentMemory.h"
 #include "tests/support/TestApplication.h"
 
 #include <QCommandLineParser>
@@ -50,12 +51,6 @@ void writeSeeds(const std::string& path, const MoveSeeds& seeds) {
     }
 }
 
-long residentMegabytes() {
-    long pages = 0;
-    std::ifstream("/proc/self/statm") >> pages >> pages;
-    return pages * sysconf(_SC_PAGESIZE) / 1000000;
-}
-
 void finishMove() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     RedrawCounter::settle();
@@ -78,7 +73,7 @@ bool play(const MoveSeeds& seeds) {
             return false;
         }
         if (number % movesBetweenReports == 0) {
-            std::cout << "-- " << residentMegabytes() << " MB resident" << std::endl;
+            std::cout << "-- " << residentBytes() / 1000000 << " MB resident" << std::endl;
         }
     }
     return !testing::UnitTest::GetInstance()->Failed();

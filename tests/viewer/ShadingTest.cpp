@@ -9,7 +9,6 @@
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoFaceSet.h>
 #include <Inventor/nodes/SoMaterial.h>
-#include <Inventor/nodes/SoMaterialBinding.h>
 #include <Inventor/nodes/SoNormal.h>
 #include <Inventor/nodes/SoNormalBinding.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -25,8 +24,7 @@ namespace {
 constexpr double fullTurn = 2 * M_PI;
 const SbColor quarterGrey(0.25F, 0.25F, 0.25F);
 
-/** A square without ambient light, under the viewer's headlight alone, which shines straight ahead.
- */
+/** A square in front of the camera, without ambient light, under the viewer's headlight alone. */
 class LitSquare : public SoQtGeneralViewerFrame {
 public:
     LitSquare()
