@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/HyperboloidParameters.h"
+#include "hyperboloid/HyperboloidParameters.h"
 
 #include <QDialog>
 

@@ -56,10 +56,6 @@ SoIndexedFaceSet* createConeFan(int32_t hub) {
     return fan;
 }
 
-Vecteur toVecteur(const Triple& triple) {
-    return {triple.x, triple.y, triple.z};
-}
-
 /** A named marker: translated, in a diffuse colour, and shown by the shared marker group. */
 SoSeparator* createMarker(const char* name, const Triple& position, const SbColor& color,
                           SoGroup* marker) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hyperboloid/Triple.h"
+#include "math/Triple.h"
 
 #include <cstddef>
 

@@ -40,11 +40,3 @@ Triple HyperboloidSpaces::center(int space) const {
         return origin;
     }
 }
-
-Triple toTriple(Vecteur vector) {
-    return {vector[0], vector[1], vector[2]};
-}
-
-TripleMatrix toTripleMatrix(Matrice matrix) {
-    return {toTriple(matrix[0]), toTriple(matrix[1]), toTriple(matrix[2])};
-}

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hyperboloid/Triple.h"
 #include "math/Matrice.h"
+#include "math/Triple.h"
 #include "math/Vecteur.h"
 
 /**
@@ -45,8 +45,3 @@ private:
     TripleMatrix inverseRotation;
     TripleMatrix K;
 };
-
-/** The first three coordinates of a vector, which throws its own message if it has fewer. */
-Triple toTriple(Vecteur vector);
-/** The nine entries of a 3x3 matrix, copied to the stack. */
-TripleMatrix toTripleMatrix(Matrice matrix);

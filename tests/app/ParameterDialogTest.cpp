@@ -1,4 +1,4 @@
-#include "app/HyperboloidParameters.h"
+#include "hyperboloid/HyperboloidParameters.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"

@@ -1,0 +1,98 @@
+#include "hyperboloid/HyperboloidParameters.h"
+
+#include "hyperboloid/Hyperboloid.h"
+
+#include <algorithm>
+
+namespace {
+
+using Set = HyperboloidParameters;
+
+constexpr double largest = 100;
+/** K1 and K2 are divided by. */
+constexpr double leastDivisor = 0.01;
+constexpr double largestPointRadius = 10;
+constexpr double coarsestGrid = 5;
+constexpr double finestGrid = 500;
+
+constexpr HyperboloidParameter real(std::string_view name, double Set::*member, double minimum,
+                                    double maximum) {
+    constexpr int decimals = 2;
+    constexpr double step = 0.01;
+    return {name, member, minimum, maximum, decimals, step};
+}
+
+constexpr HyperboloidParameter whole(std::string_view name, int Set::*member, double minimum,
+                                     double maximum) {
+    return {name, member, minimum, maximum, 0, 1};
+}
+
+constexpr std::array<HyperboloidParameter, Set::count> parameters{
+    real("K1", &Set::K1, leastDivisor, largest),
+    real("K2", &Set::K2, leastDivisor, largest),
+    real("K3", &Set::K3, 0, largest),
+    real("K13", &Set::K13, -largest, largest),
+    real("K23", &Set::K23, -largest, largest),
+    real("Uhat1", &Set::U1, -largest, largest),
+    real("Uhat2", &Set::U2, -largest, largest),
+    real("Uhat3", &Set::U3, -largest, largest),
+    whole("columns", &Set::horizontalPrecision, coarsestGrid, finestGrid),
+    whole("rows", &Set::verticalPrecision, coarsestGrid, finestGrid),
+    real("point-radius", &Set::pointRadius, 0, largestPointRadius),
+    real("u3const-range", &Set::u3constRange, 0, largest),
+    real("u3axis-range", &Set::u3axisRange, 0, largest),
+    real("u3const-radius", &Set::u3constRadius, 0, largest),
+    real("u3axis-radius", &Set::u3axisRadius, 0, largest),
+};
+
+} // namespace
+
+const std::array<HyperboloidParameter, HyperboloidParameters::count>& HyperboloidParameters::all() {
+    return parameters;
+}
+
+HyperboloidParameters HyperboloidParameters::of(const Hyperboloid& hyperboloid) {
+    HyperboloidParameters set;
+    set.K1 = hyperboloid.getK(0);
+    set.K2 = hyperboloid.getK(1);
+    set.K3 = hyperboloid.getK(2);
+    set.K13 = hyperboloid.getK(3);
+    set.K23 = hyperboloid.getK(4);
+    set.U1 = hyperboloid.getU(0);
+    set.U2 = hyperboloid.getU(1);
+    set.U3 = hyperboloid.getU(2);
+    set.horizontalPrecision = static_cast<int>(hyperboloid.getPrec(0));
+    set.verticalPrecision = static_cast<int>(hyperboloid.getPrec(1));
+    set.pointRadius = hyperboloid.getSpR();
+    set.u3constRange = hyperboloid.getu3const_range();
+    set.u3axisRange = hyperboloid.getu3axis_range();
+    set.u3constRadius = hyperboloid.getu3const_radius();
+    set.u3axisRadius = hyperboloid.getu3axis_radius();
+    return set;
+}
+
+HyperboloidCondition HyperboloidParameters::brokenCondition() const {
+    const double s = K13 * K13 / K1 + K23 * K23 / K2;
+    if (s >= K3) {
+        return HyperboloidCondition::quadric;
+    }
+    return K1 > K2 ? HyperboloidCondition::order : HyperboloidCondition::none;
+}
+
+double HyperboloidParameter::valueIn(const HyperboloidParameters& set) const {
+    return std::visit([&](auto value) { return static_cast<double>(set.*value); }, member);
+}
+
+void HyperboloidParameter::setValueIn(HyperboloidParameters& set, double value) const {
+    std::visit(
+        [&](auto target) {
+            using Value = std::decay_t<decltype(set.*target)>;
+            set.*target = static_cast<Value>(value);
+        },
+        member);
+}
+
+const HyperboloidParameter& HyperboloidParameter::of(Member member) {
+    return *std::find_if(parameters.begin(), parameters.end(),
+                         [&](const HyperboloidParameter& one) { return one.member == member; });
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+/**
+ * The numbering of the surface's vertices: columns go around it, rows go along it, and vertex
+ * index = row + column * rows. The last column repeats the first, so that the surface closes.
+ */
+struct VertexGrid {
+    /** Directions of a step, as HyperboloidFrame::moveSphere() takes them. */
+    static constexpr int up = 0;
+    static constexpr int down = 1;
+    static constexpr int right = 2;
+    static constexpr int left = 3;
+
+    int columns;
+    int rows;
+
+    /**
+     * The vertex one step away. Rows end at the first and the last; columns wrap around, and the
+     * last column, which repeats the first, is never reached. On purpose right lowers the column
+     * and left raises it. A direction that is none leads nowhere.
+     */
+    [[nodiscard]] int neighbour(int index, int direction) const;
+
+    /**
+     * The vertex of a new grid of `newCount` vertices at the relative place of vertex `index` of an
+     * old one: newCount (index / oldCount), computed in double and truncated. The quotient's
+     * rounding is part of it: on an unchanged grid some vertices move by one.
+     */
+    static int atSamePlace(int index, int oldCount, int newCount);
+};
