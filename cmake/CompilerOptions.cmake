@@ -1,7 +1,4 @@
 # What every target of our own is compiled with.
-#
-# torvane_library(<name> <source>...) makes a static library of one layer. Headers are included by
-# their path from the project's root ("math/Vecteur.h"), so an include shows which layer it uses.
 
 add_library(torvane_options INTERFACE)
 target_compile_options(
@@ -15,7 +12,6 @@ target_compile_options(
     -Wshadow
     -Wconversion
     -Werror)
-target_include_directories(torvane_options INTERFACE ${PROJECT_SOURCE_DIR})
 
 if(TORVANE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
@@ -33,8 +29,3 @@ foreach(library Coin::Coin SoQt::SoQt)
   get_target_property(directories ${library} INTERFACE_INCLUDE_DIRECTORIES)
   set_target_properties(${library} PROPERTIES INTERFACE_SYSTEM_INCLUDE_DIRECTORIES "${directories}")
 endforeach()
-
-function(torvane_library name)
-  add_library(${name} STATIC ${ARGN})
-  target_link_libraries(${name} PUBLIC torvane_options)
-endfunction()

@@ -11,7 +11,7 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
     valgrind)
-check_packages=(clang-format clang-tidy git)
+check_packages=(clang-format clang-tidy shellcheck git)
 coverage_packages=(gcovr)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts
