@@ -72,7 +72,7 @@ private:
 
 void keyStep(State& state, int gridSize) {
     const HiddenWindow hidden(gridSize);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto iteration : state) {
         hidden.u().moveSphere(HyperboloidFrame::LEFT);
     }
 }
@@ -81,7 +81,7 @@ void registerAppearance(const char* work, const char* slot) {
     RegisterBenchmark((std::string(work) + "/ours").c_str(), [=](State& state) {
         HiddenWindow hidden(500);
         int value = 0;
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             value = (value + 1) % 100;
             hidden.appearanceStep(slot, value);
         }
@@ -93,13 +93,13 @@ void registerAll() {
     RegisterBenchmark("one key step/500 x 500", [](State& state) { keyStep(state, 500); });
     RegisterBenchmark("change of parameters, 500 x 500, 5 helices/whole", [](State& state) {
         HiddenWindow hidden(500);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             hidden.change(500);
         }
     });
     RegisterBenchmark("change of parameters, 500 x 500, 5 helices/parts", [](State& state) {
         HiddenWindow hidden(500);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             hidden.partsOfAChange();
         }
     });

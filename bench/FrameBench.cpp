@@ -53,7 +53,7 @@ public:
         SoQtGeneralViewer& viewer = *u().getViewer();
         viewer.render();
         viewer.render();
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             const double before = threadSeconds();
             viewer.render();
             state.SetIterationTime(threadSeconds() - before);
@@ -86,7 +86,7 @@ void drawNewSurface(State& state, SoSeparator::CacheEnabled caching) {
     const ShownWindow shown;
     SoQtGeneralViewer& viewer = *shown.u().getViewer();
     viewer.render();
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto iteration : state) {
         shown.u().reDraw(false, false);
         shown.surface().renderCaching = caching;
         const double before = threadSeconds();

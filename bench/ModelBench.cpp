@@ -46,13 +46,13 @@ void registerSurface(int space, int size) {
                              std::to_string(size) + " x " + std::to_string(size);
     RegisterBenchmark((work + "/plain").c_str(), [=](State& state) {
         PlainHyperboloid plain(plainParameters(space, static_cast<unsigned int>(size)));
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             plain.generate();
         }
     });
     RegisterBenchmark((work + "/ours").c_str(), [=](State& state) {
         GridModel model(space, size);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             model.generateHyperboloidPoints(true, true);
         }
     });
@@ -62,13 +62,13 @@ void registerRecolouring() {
     RegisterBenchmark("recolouring, 500 x 500/plain", [](State& state) {
         PlainHyperboloid plain(plainParameters(0, 500));
         plain.generate();
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             plain.recolor();
         }
     });
     RegisterBenchmark("recolouring, 500 x 500/ours", [](State& state) {
         GridModel model(Hyperboloid::USPACE, 500);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             model.generateHyperboloidPoints(false, true);
         }
     });
@@ -92,13 +92,13 @@ void registerHelix(const char* work, int precisionLine, float turns, int precisi
         plain.nbLineVertices = static_cast<unsigned int>(static_cast<float>(precisionLine) * turns);
         plain.precisionTube = static_cast<unsigned int>(precisionTube);
         plain.init_tables(true, true, true);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             plain.generatePoints(true, true, true);
         }
     });
     RegisterBenchmark((std::string(work) + "/ours").c_str(), [=](State& state) {
         Helix helix = sampledHelix(precisionLine, turns, precisionTube);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             helix.generatePoints(true, true, true);
         }
     });
@@ -107,7 +107,7 @@ void registerHelix(const char* work, int precisionLine, float turns, int precisi
 void registerNodes() {
     RegisterBenchmark("nodes of the surface, 500 x 500/ours", [](State& state) {
         GridModel model(Hyperboloid::USPACE, 500);
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto iteration : state) {
             const NodePointer<SoSeparator> surface(model.DrawHyperboloid());
         }
     });
@@ -119,7 +119,7 @@ void pickRepeatedly(State& state, SoNode& scene, const Hyperboloid& model) {
     const SbVec3f from(3, 4, 40);
     const SbVec3f vertex(model.getVertex(target, 0), model.getVertex(target, 1),
                          model.getVertex(target, 2));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto iteration : state) {
         SoRayPickAction action(SbViewportRegion(400, 300));
         action.setRay(from, vertex * 0.99F - from);
         action.apply(&scene);
@@ -145,7 +145,7 @@ void registerPick(int space) {
 template <typename Write>
 void exportRepeatedly(State& state, Write write) {
     const GridModel model(Hyperboloid::USPACE, 500);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto iteration : state) {
         std::ostringstream text;
         write(text, model);
         benchmark::DoNotOptimize(text);

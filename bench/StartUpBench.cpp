@@ -120,7 +120,7 @@ int runViewer(int argc, char** argv) {
 }
 
 void startProgram(benchmark::State& state, const char* argument) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto iteration : state) {
         QProcess process;
         const auto before = std::chrono::steady_clock::now();
         process.start("/proc/self/exe", {argument});
