@@ -1,6 +1,8 @@
 #include "helix/Helix.h"
 
 #include "helix/HelixNodes.h"
+#include "math/Constants.h"
+#include "scene/PositionColor.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,11 +10,8 @@
 
 namespace {
 
-constexpr double pi = 3.141592653589793;
-constexpr double fullTurn = 6.283185307179586;
 constexpr float quarterTurn = 1.5707964F;
 constexpr float threeQuarterTurns = 4.712389F;
-constexpr double brightest = 0.8;
 
 /** A count from a product of numbers that nothing bounds: truncated, and 0 when it is no count. */
 unsigned int truncatedCount(double value) {
@@ -23,63 +22,16 @@ unsigned int truncatedCount(double value) {
     return value < static_cast<double>(largest) ? static_cast<unsigned int>(value) : largest;
 }
 
-/** The number of steps between `count` samples; at least one, so that it can divide. */
-unsigned int stepsBetween(unsigned int count) {
-    return count < 2 ? 1 : count - 1;
-}
-
-float channel(float value) {
-    return static_cast<float>(std::fabs(std::sin(std::sqrt(std::fabs(value)))) * brightest);
-}
-
-std::array<float, 3> colorOf(const std::array<float, 3>& point) {
-    const auto [x, y, z] = point;
-    return {channel(y * x + z * y), channel(z * x + y * z), channel(x * z + y * x)};
-}
-
-/** center + alongNormal v + alongBinormal b, summed in double from left to right. */
-std::array<float, 3> tubeVertex(const std::array<double, 3>& center, const std::array<double, 3>& v,
-                                const std::array<double, 3>& b, double alongNormal,
-                                double alongBinormal) {
-    std::array<float, 3> vertex{};
-    for (std::size_t c = 0; c < 3; ++c) {
-        vertex[c] = static_cast<float>(center[c] + alongNormal * v[c] + alongBinormal * b[c]);
-    }
-    return vertex;
-}
-
-std::array<double, 3> widened(const std::array<float, 3>& point) {
-    return {point[0], point[1], point[2]};
-}
-
-Vecteur toVecteur(const std::array<double, 3>& direction) {
-    return {direction[0], direction[1], direction[2]};
-}
-
-std::array<double, 3> toDirection(const Vecteur& vector) {
-    return {vector.GetCoord(0), vector.GetCoord(1), vector.GetCoord(2)};
-}
-
-std::array<float, 3> toPoint(const float (&point)[3]) {
-    return {point[0], point[1], point[2]};
-}
-
-void store(const std::array<float, 3>& point, float (&out)[3]) {
-    std::copy(point.begin(), point.end(), out);
-}
-
 } // namespace
 
 Helix::Helix() {
-    init_tables(true, true, true);
-    generatePoints(true, true, true);
+    sampleAll();
 }
 
 Helix::Helix(float u1, float u2, float u3, float red, float green, float blue) {
     refresh_param(u1, u2, u3, red, green, blue);
     updateLineVertexCount();
-    init_tables(true, true, true);
-    generatePoints(true, true, true);
+    sampleAll();
 }
 
 Helix::Helix(float x, float y, float turns, unsigned int tubePrecision, bool fromRadiusPitch)
@@ -99,8 +51,7 @@ Helix::Helix(float x, float y, float turns, unsigned int tubePrecision, bool fro
     omega = 1 / std::sqrt(radius * radius + pitch * pitch);
     constexpr double verticesPerTurn = 50.0;
     nbLineVertices = truncatedCount(turns * verticesPerTurn);
-    init_tables(true, true, true);
-    generatePoints(true, true, true);
+    sampleAll();
 }
 
 float Helix::k_from_r_p() const {
@@ -120,7 +71,7 @@ float Helix::p_from_k_t() const {
 }
 
 float Helix::getLineVertex(int i, int c) const {
-    return lineVertices[static_cast<std::size_t>(i)][static_cast<std::size_t>(c)];
+    return coordinate(getLineVertices()[static_cast<std::size_t>(i)], c);
 }
 
 void Helix::setPrecisionTube(int verticesPerRing) {
@@ -141,74 +92,35 @@ void Helix::updateLineVertexCount() {
     nbLineVertices = truncatedCount(static_cast<float>(precisionLine) * nTurns);
 }
 
-Helix::Turn::Turn(float angle)
-    : cosine(std::cos(angle))
-    , sine(std::sin(angle)) {}
-
-Helix::Direction Helix::normalAt(const Turn& theta) {
-    return {-theta.cosine, -theta.sine, 0};
-}
-
-Helix::Direction Helix::binormalAt(const Turn& theta) const {
-    return {pitch * omega * theta.sine, -pitch * omega * theta.cosine, radius * omega};
-}
-
-Helix::Direction Helix::ribbonDirection(const Turn& turn, const Direction& v, const Direction& b) {
-    Direction direction{};
-    for (std::size_t c = 0; c < 3; ++c) {
-        direction[c] = turn.cosine * v[c] + turn.sine * b[c];
-    }
-    return direction;
-}
-
-Helix::Point Helix::lineVertexAt(float s, const Turn& theta) const {
-    return {radius * theta.cosine, radius * theta.sine,
-            static_cast<float>(pitch * omega * s - pi * nTurns * pitch)};
-}
-
-Helix::Point Helix::ribbonEdge(const Point& center, const Direction& d) const {
-    Point edge{};
-    for (std::size_t c = 0; c < 3; ++c) {
-        edge[c] = static_cast<float>(center[c] + ribRange * d[c]);
-    }
-    return edge;
-}
-
-Helix::RingOffset Helix::ringOffset(float angle) const {
-    const Turn turn(angle);
-    return {tubeR * turn.cosine, tubeR * turn.sine};
-}
-
 Vecteur Helix::get_v(float s) const {
-    return toVecteur(normalAt(Turn(omega * s)));
+    return toVecteur(HelixCurve::normalAt(curve().thetaAt(s)));
 }
 
 Vecteur Helix::get_b(float s) const {
-    return toVecteur(binormalAt(Turn(omega * s)));
+    return toVecteur(curve().binormalAt(curve().thetaAt(s)));
 }
 
 Vecteur Helix::d1_from_v_b(Vecteur v, Vecteur b) const {
-    return toVecteur(ribbonDirection(Turn(phi), toDirection(v), toDirection(b)));
+    return toVecteur(profile().ribbonDirection(toTriple(v), toTriple(b)));
 }
 
 void Helix::computePositionForParams(float const& s, float (&out)[3]) const {
-    store(lineVertexAt(s, Turn(omega * s)), out);
+    store(curve().pointAt(s, curve().thetaAt(s)), out);
 }
 
 void Helix::computePositionForParams(float (&center)[3], Vecteur v, Vecteur b, float (&out)[3],
                                      float const& angle) const {
-    const RingOffset offset = ringOffset(angle);
-    store(tubeVertex(widened(toPoint(center)), toDirection(v), toDirection(b), offset.alongNormal,
-                     offset.alongBinormal),
+    store(HelixProfile::tubeVertex(widened(toFloatTriple(center)), toTriple(v), toTriple(b),
+                                   profile().ringOffset(angle)),
           out);
 }
 
 void Helix::computeRibbon(float (&out)[3], float (&center)[3], Vecteur d) const {
-    store(ribbonEdge(toPoint(center), toDirection(d)), out);
+    store(profile().ribbonVertex(toFloatTriple(center), toTriple(d)), out);
 }
 
 void Helix::computeColorForPoint(float const (&pt)[3], float (&rgb)[3]) const {
-    store(colorOf(toPoint(pt)), rgb);
+    store(positionColor(toFloatTriple(pt)), rgb);
 }
 
 float Helix::phi_from_u(float u1, float u2) const {
@@ -218,7 +130,7 @@ float Helix::phi_from_u(float u1, float u2) const {
         return std::asin(sine);
     }
     if (q < 0) {
-        return static_cast<float>(pi - std::asin(sine));
+        return static_cast<float>(Constants::pi - std::asin(sine));
     }
     if (q == 0 && sine > 0) {
         return quarterTurn;
@@ -241,85 +153,42 @@ bool Helix::refresh_param(float u1, float u2, float u3, float red, float green, 
     return !std::isnan(u2 / curvature);
 }
 
+HelixCurve Helix::curve() const {
+    return {radius, pitch, omega, nTurns};
+}
+
+HelixProfile Helix::profile() const {
+    return {tubeR, ribRange, Turn(phi)};
+}
+
+HelixTables::Counts Helix::counts() const {
+    return {nbLineVertices, precisionTube};
+}
+
 void Helix::init_tables(bool line, bool tube, bool ribbon) {
-    const std::size_t lineCount = nbLineVertices;
-    const auto clear = [](bool chosen, std::size_t count, Table& vertices, Table& colors) {
-        if (chosen) {
-            vertices.assign(count, {});
-            colors.assign(count, {});
-        }
-    };
-    clear(line, lineCount, lineVertices, lineColors);
-    clear(ribbon, 2 * lineCount, ribbonVertices, ribbonColors);
-    clear(tube, precisionTube * lineCount, tubeVertices, tubeColors);
-}
-
-void Helix::fitTables() {
-    const std::size_t lineCount = nbLineVertices;
-    init_tables(lineVertices.size() != lineCount, tubeVertices.size() != precisionTube * lineCount,
-                ribbonVertices.size() != 2 * lineCount);
-}
-
-float Helix::arcLengthOfVertex(unsigned int i) const {
-    return static_cast<float>(nTurns * fullTurn * i / stepsBetween(nbLineVertices) * (1.0 / omega));
-}
-
-std::vector<Helix::RingOffset> Helix::ringOffsets() const {
-    std::vector<RingOffset> offsets;
-    offsets.reserve(precisionTube);
-    const auto steps = static_cast<float>(stepsBetween(precisionTube));
-    for (unsigned int j = 0; j < precisionTube; ++j) {
-        offsets.push_back(ringOffset(static_cast<float>(static_cast<float>(j) * fullTurn / steps)));
-    }
-    return offsets;
+    tables.init(counts(), {line, tube, ribbon});
 }
 
 void Helix::generatePoints(bool line, bool tube, bool ribbon) {
-    fitTables();
-    const std::vector<RingOffset> ring = tube ? ringOffsets() : std::vector<RingOffset>();
-    const Turn ribbonTurn(phi);
-    const Direction nowhere{0, 0, 0};
-    for (unsigned int i = 0; i < nbLineVertices; ++i) {
-        const float s = arcLengthOfVertex(i);
-        const Turn theta(omega * s);
-        const Direction v = normalAt(theta);
-        const Direction b = binormalAt(theta);
-        if (line) {
-            lineVertices[i] = lineVertexAt(s, theta);
-        }
-        const Point& center = lineVertices[i];
-        const Point color = colorOf(center);
-        if (line) {
-            lineColors[i] = color;
-        }
-        if (tube) {
-            const Direction wideCenter = widened(center);
-            std::size_t vertex = static_cast<std::size_t>(precisionTube) * i;
-            for (const RingOffset& offset : ring) {
-                tubeVertices[vertex] =
-                    tubeVertex(wideCenter, v, b, offset.alongNormal, offset.alongBinormal);
-                tubeColors[vertex] = color;
-                ++vertex;
-            }
-        }
-        if (ribbon) {
-            const std::size_t inner = 2 * static_cast<std::size_t>(i);
-            ribbonVertices[inner] = ribbonEdge(center, nowhere);
-            ribbonVertices[inner + 1] = ribbonEdge(center, ribbonDirection(ribbonTurn, v, b));
-            ribbonColors[inner] = color;
-            ribbonColors[inner + 1] = color;
-        }
-    }
+    tables.fill(counts(), {line, tube, ribbon}, curve(), profile());
+}
+
+void Helix::sampleAll() {
+    init_tables(true, true, true);
+    generatePoints(true, true, true);
 }
 
 SoSeparator* Helix::DrawLine() const {
+    tables.requireSizesOf(counts());
     return HelixNodes::createLine(*this);
 }
 
 SoSeparator* Helix::DrawTube() const {
+    tables.requireSizesOf(counts());
     return HelixNodes::createTube(*this);
 }
 
 SoSeparator* Helix::DrawRibbon() const {
+    tables.requireSizesOf(counts());
     return HelixNodes::createRibbon(*this);
 }

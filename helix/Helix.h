@@ -1,9 +1,8 @@
 #pragma once
 
+#include "helix/HelixTables.h"
+#include "math/Triple.h"
 #include "math/Vecteur.h"
-
-#include <array>
-#include <vector>
 
 class SoSeparator;
 
@@ -20,11 +19,12 @@ class SoSeparator;
  * axis, centred on the origin.
  *
  * All geometry is single precision; steps that run in double say so. Every table has one entry of
- * three floats (x, y, z or red, green, blue) per vertex.
+ * three floats (x, y, z or red, green, blue) per vertex. A Vecteur of fewer than three coordinates
+ * throws its own message.
  */
 class Helix {
 public:
-    using Table = std::vector<std::array<float, 3>>;
+    using Table = HelixTable::Triples;
 
     /** r = 6, p = 2, five turns; coloured by vertex. */
     Helix();
@@ -68,20 +68,21 @@ public:
     /** Coordinate c (0, 1, 2) of centre-line vertex i, unchecked. */
     float getLineVertex(int i, int c) const;
     /** The uniform colour of the tube; (0, 0, 0) means colour by vertex. */
-    const std::array<float, 3>& getHelixColor() const { return helixColor; }
+    const FloatTriple& getHelixColor() const { return helixColor; }
 
     /** nbLineVertices entries. */
-    const Table& getLineVertices() const { return lineVertices; }
-    const Table& getLineColors() const { return lineColors; }
+    const Table& getLineVertices() const { return tables.getLine().getVertices(); }
+    const Table& getLineColors() const { return tables.getLine().getColors(); }
     /** precisionTube * nbLineVertices entries, ring after ring. */
-    const Table& getTubeVertices() const { return tubeVertices; }
-    const Table& getTubeColors() const { return tubeColors; }
+    const Table& getTubeVertices() const { return tables.getTube().getVertices(); }
+    const Table& getTubeColors() const { return tables.getTube().getColors(); }
     /** 2 * nbLineVertices entries, pairs of centre-line point and outer edge point. */
-    const Table& getRibbonVertices() const { return ribbonVertices; }
-    const Table& getRibbonColors() const { return ribbonColors; }
+    const Table& getRibbonVertices() const { return tables.getRibbon().getVertices(); }
+    const Table& getRibbonColors() const { return tables.getRibbon().getColors(); }
 
-    // Setters of what is sampled. The counts take effect on the tables with init_tables(), all
-    // values with generatePoints(). A negative or undefined count is 0.
+    // Setters of what is sampled. The counts take effect on the tables with init_tables(), which
+    // must follow before the tables are used again, all values with generatePoints(). A negative or
+    // undefined count is 0.
     void setRibRange(float width) { ribRange = width; }
     void setTubeR(float newRadius) { tubeR = newRadius; }
     void setPrecisionTube(int verticesPerRing);
@@ -111,10 +112,7 @@ public:
     /** A point of the ribbon's outer edge, center + ribRange d, formed in double. */
     void computeRibbon(float (&out)[3], float (&center)[3], Vecteur d) const;
 
-    /**
-     * The colour of a centre-line point (x, y, z), each channel at most 0.8:
-     * |sin sqrt|yx + zy||, |sin sqrt|zx + yz||, |sin sqrt|xz + yx||, times 0.8.
-     */
+    /** The colour of a centre-line point: that of its position, see positionColor(). */
     void computeColorForPoint(float const (&pt)[3], float (&rgb)[3]) const;
 
     /**
@@ -130,48 +128,33 @@ public:
      */
     bool refresh_param(float u1, float u2, float u3, float red, float green, float blue);
 
-    /** Gives the chosen tables, vertices and colours alike, the size of the counts, all zero. */
+    /**
+     * Gives the chosen tables, vertices and colours alike, the size of the counts, all zero. They
+     * wait to be filled.
+     */
     void init_tables(bool line, bool tube, bool ribbon);
 
     /**
-     * Fills the chosen tables. Tube and ribbon go along the centre line as it was last sampled.
-     * The last centre-line vertex closes the n-th turn, the last vertex of a ring repeats the
-     * first, and a whole ring has the colour of its centre point.
+     * Fills the chosen tables, and those that wait to be filled. Tube and ribbon go along the
+     * centre line as it was last sampled. The last centre-line vertex closes the n-th turn, the
+     * last vertex of a ring repeats the first, and a whole ring has the colour of its centre point.
+     *
+     * Throws std::logic_error when a count was changed without init_tables().
      */
     void generatePoints(bool line, bool tube, bool ribbon);
 
-    // New scene nodes, see HelixNodes.
+    // New scene nodes of the tables as they are, see HelixNodes. Each throws std::logic_error when
+    // a count was changed without init_tables().
     SoSeparator* DrawLine() const;
     SoSeparator* DrawTube() const;
     SoSeparator* DrawRibbon() const;
 
 private:
-    using Point = std::array<float, 3>;
-    using Direction = std::array<double, 3>;
-    /** Cosine and sine of an angle. */
-    struct Turn {
-        explicit Turn(float angle);
-        float cosine;
-        float sine;
-    };
-    /** The factors of a tube point's directions, tubeR cos angle and tubeR sin angle: floats,
-     * widened. */
-    struct RingOffset {
-        double alongNormal;
-        double alongBinormal;
-    };
-
     void updateLineVertexCount();
-    /** Counts may have changed without init_tables(): sampling must not run over a table. */
-    void fitTables();
-    float arcLengthOfVertex(unsigned int i) const;
-    std::vector<RingOffset> ringOffsets() const;
-    RingOffset ringOffset(float angle) const;
-    static Direction normalAt(const Turn& theta);
-    Direction binormalAt(const Turn& theta) const;
-    static Direction ribbonDirection(const Turn& turn, const Direction& v, const Direction& b);
-    Point lineVertexAt(float s, const Turn& theta) const;
-    Point ribbonEdge(const Point& center, const Direction& d) const;
+    void sampleAll();
+    HelixCurve curve() const;
+    HelixProfile profile() const;
+    HelixTables::Counts counts() const;
 
     float radius = 6.0F;
     float pitch = 2.0F;
@@ -185,11 +168,6 @@ private:
     unsigned int precisionLine = 50;
     unsigned int nbLineVertices = 250;
     unsigned int precisionTube = 16;
-    Table lineVertices;
-    Table tubeVertices;
-    Table ribbonVertices;
-    Table lineColors;
-    Table tubeColors;
-    Table ribbonColors;
-    std::array<float, 3> helixColor{};
+    HelixTables tables;
+    FloatTriple helixColor{};
 };

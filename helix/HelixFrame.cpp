@@ -1,5 +1,6 @@
 #include "helix/HelixFrame.h"
 
+#include "helix/HelixNames.h"
 #include "viewer/FrameOwner.h"
 
 #include <Inventor/nodes/SoSeparator.h>
@@ -9,9 +10,12 @@ int HelixFrame::helix_nb = 0;
 
 HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, float blue, int index,
                        bool closable, FrameOwner* owner)
+    : HelixFrame({index, {u1, u2, u3}, {red, green, blue}}, closable, owner) {}
+
+HelixFrame::HelixFrame(const SurfaceVertex& vertex, bool closable, FrameOwner* owner)
     : SoQtGeneralViewerFrame(closable, owner)
-    , helix(u1, u2, u3, red, green, blue) {
-    initialize_helix(index);
+    , helix(vertex.u.x, vertex.u.y, vertex.u.z, vertex.color.x, vertex.color.y, vertex.color.z) {
+    initialize_helix(vertex.index);
 }
 
 HelixFrame::~HelixFrame() {
@@ -24,7 +28,7 @@ void HelixFrame::initialize_helix(int index) {
     ++helix_nb;
     type = Type();
     vertexIndex = index;
-    name = "Helix_" + std::to_string(helix_nb);
+    name = HelixNames::framePrefix + std::to_string(helix_nb);
 }
 
 SbName HelixFrame::getName() const {
@@ -34,8 +38,8 @@ SbName HelixFrame::getName() const {
 void HelixFrame::SetEventHandlers() {}
 
 void HelixFrame::Draw() {
-    removeSceneChild("Helix_Tube", root.get());
-    removeSceneChild("Helix_Ribbon", root.get());
+    removeSceneChild(HelixNames::tube, root.get());
+    removeSceneChild(HelixNames::ribbon, root.get());
     root->addChild(helix.DrawTube());
     root->addChild(helix.DrawRibbon());
 }
@@ -47,9 +51,14 @@ void HelixFrame::reDraw(bool line, bool tube, bool ribbon) {
 
 void HelixFrame::refresh(float u1, float u2, float u3, int index, float red, float green,
                          float blue) {
+    refresh({index, {u1, u2, u3}, {red, green, blue}});
+}
+
+void HelixFrame::refresh(const SurfaceVertex& vertex) {
+    const auto& [index, u, color] = vertex;
     vertexIndex = index;
-    helix.refresh_param(u1, u2, u3, red, green, blue);
-    showU(u1, u2, u3);
+    helix.refresh_param(u.x, u.y, u.z, color.x, color.y, color.z);
+    showU(u.x, u.y, u.z);
     reDraw(true, true, true);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "helix/Helix.h"
+#include "scene/SurfaceVertex.h"
 #include "viewer/SoQtGeneralViewerFrame.h"
 
 /**
@@ -24,8 +25,10 @@ public:
      * @param closable         whether the frame may be closed by itself
      * @param owner            told when the frame dies; may be null
      */
-    HelixFrame(float u1, float u2, float u3, float red, float green, float blue, int vertexIndex,
+    HelixFrame(float u1, float u2, float u3, float red, float green, float blue, int index,
                bool closable, FrameOwner* owner);
+    /** The same for a vertex of the surface. */
+    HelixFrame(const SurfaceVertex& vertex, bool closable, FrameOwner* owner);
     /** Tells the main window, which removes the helix's spheres; then the helix goes. */
     ~HelixFrame() override;
     HelixFrame(const HelixFrame&) = delete;
@@ -53,6 +56,7 @@ public:
 
     /** Takes over the U coordinates, the index and the colour of another vertex, and draws. */
     void refresh(float u1, float u2, float u3, int index, float red, float green, float blue);
+    void refresh(const SurfaceVertex& vertex);
 
     /** Shows a point of U space in the viewer's title, for example U = (0.5; 1; 0.25). */
     void showU(double u1, double u2, double u3);

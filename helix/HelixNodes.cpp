@@ -1,6 +1,7 @@
 #include "helix/HelixNodes.h"
 
 #include "helix/Helix.h"
+#include "helix/HelixNames.h"
 #include "scene/SceneNodes.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
@@ -11,8 +12,6 @@
 #include <Inventor/nodes/SoSeparator.h>
 
 namespace {
-
-using Color = std::array<float, 3>;
 
 const float (*valuesOf(const Helix::Table& table))[3] {
     return reinterpret_cast<const float(*)[3]>(table.data());
@@ -38,26 +37,25 @@ void addCoordinates(SoSeparator& parent, const Helix::Table& points) {
     parent.addChild(SceneNodes::createCoordinates(countOf(points), valuesOf(points)));
 }
 
-/** A mesh in one colour, or coloured by vertex when the helix has no colour of its own. */
-SoSeparator* createMesh(const char* name, const Helix& helix, const Color& color,
+/**
+ * A mesh of one row per centre-line vertex, in one colour or coloured by vertex when the helix has
+ * no colour of its own.
+ */
+SoSeparator* createMesh(const char* name, const Helix& helix, const FloatTriple& color,
                         const Helix::Table& colors, const Helix::Table& points,
                         unsigned int verticesPerRow) {
     SoSeparator* mesh = SceneNodes::createSeparator(name);
-    if (helix.getHelixColor() == Color{0, 0, 0}) {
+    if (helix.getHelixColor() == FloatTriple{0, 0, 0}) {
         addVertexColors(*mesh, colors);
     } else {
-        mesh->addChild(SceneNodes::createMaterial(color[0], color[1], color[2]));
+        mesh->addChild(SceneNodes::createMaterial(color.x, color.y, color.z));
     }
     addCoordinates(*mesh, points);
     // The scene library complains about a mesh without a single quadrilateral.
-    if (verticesPerRow < 2) {
-        return mesh;
-    }
-    // As many rows as there are coordinates for: counts may have changed since they were sampled.
-    const int verticesPerColumn = countOf(points) / static_cast<int>(verticesPerRow);
-    if (verticesPerColumn > 1) {
+    const unsigned int rows = helix.getNbLineVertices();
+    if (verticesPerRow > 1 && rows > 1) {
         mesh->addChild(
-            SceneNodes::createQuadMesh(static_cast<int>(verticesPerRow), verticesPerColumn));
+            SceneNodes::createQuadMesh(static_cast<int>(verticesPerRow), static_cast<int>(rows)));
     }
     return mesh;
 }
@@ -65,7 +63,7 @@ SoSeparator* createMesh(const char* name, const Helix& helix, const Color& color
 } // namespace
 
 SoSeparator* HelixNodes::createLine(const Helix& helix) {
-    SoSeparator* line = SceneNodes::createSeparator("Helix_Line");
+    SoSeparator* line = SceneNodes::createSeparator(HelixNames::line);
     addVertexColors(*line, helix.getLineColors());
     addCoordinates(*line, helix.getLineVertices());
     auto* polyline = new SoLineSet;
@@ -75,13 +73,13 @@ SoSeparator* HelixNodes::createLine(const Helix& helix) {
 }
 
 SoSeparator* HelixNodes::createTube(const Helix& helix) {
-    return createMesh("Helix_Tube", helix, helix.getHelixColor(), helix.getTubeColors(),
+    return createMesh(HelixNames::tube, helix, helix.getHelixColor(), helix.getTubeColors(),
                       helix.getTubeVertices(), helix.getPrecisionTube());
 }
 
 SoSeparator* HelixNodes::createRibbon(const Helix& helix) {
     const auto [red, green, blue] = helix.getHelixColor();
     constexpr unsigned int edges = 2;
-    return createMesh("Helix_Ribbon", helix, {1 - red, 1 - green, 1 - blue},
+    return createMesh(HelixNames::ribbon, helix, {1 - red, 1 - green, 1 - blue},
                       helix.getRibbonColors(), helix.getRibbonVertices(), edges);
 }

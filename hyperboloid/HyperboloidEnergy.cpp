@@ -1,7 +1,8 @@
 #include "hyperboloid/HyperboloidEnergy.h"
 
+#include "scene/PositionColor.h"
+
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -10,7 +11,6 @@ constexpr double blueHueDegrees = 240.0;
 constexpr double fullCircleDegrees = 360.0;
 constexpr double oneThird = 1.0 / 3.0;
 constexpr double twoThirds = 2.0 / 3.0;
-constexpr double positionBrightness = 0.8;
 
 /** q of the hue, saturation, lightness model: the highest value of a channel. */
 double highestChannel(double saturation, double lightness) {
@@ -43,12 +43,6 @@ double channel(double hue, double lowest, double slope, double highest) {
         return lowest + (highest - lowest) * (twoThirds - hue) * 6.0;
     }
     return lowest; // also for a NaN hue
-}
-
-/** |sin(sqrt|sum|)| dimmed, the channel value of a sum of products of coordinates. */
-float channelOfPosition(float sum) {
-    const float wave = std::fabs(std::sin(std::sqrt(std::fabs(sum))));
-    return static_cast<float>(wave * positionBrightness);
 }
 
 } // namespace
@@ -84,9 +78,7 @@ void HyperboloidEnergy::normalize(float* energies, std::size_t count) {
 }
 
 void HyperboloidEnergy::colorOfPosition(const float (&p)[3], float (&rgb)[3]) {
-    rgb[0] = channelOfPosition(p[1] * p[0] + p[2] * p[1]);
-    rgb[1] = channelOfPosition(p[2] * p[0] + p[1] * p[2]);
-    rgb[2] = channelOfPosition(p[0] * p[2] + p[1] * p[0]);
+    store(positionColor(toFloatTriple(p)), rgb);
 }
 
 HyperboloidEnergy::Palette::Palette(double saturation, double lightnessValue)

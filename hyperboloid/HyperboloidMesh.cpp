@@ -1,5 +1,7 @@
 #include "hyperboloid/HyperboloidMesh.h"
 
+#include "scene/Finite.h"
+
 #include <Inventor/SbBox3f.h>
 #include <Inventor/SbLine.h>
 #include <Inventor/SoPrimitiveVertex.h>
@@ -9,7 +11,6 @@
 #include <Inventor/details/SoPointDetail.h>
 #include <Inventor/elements/SoCoordinateElement.h>
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <limits>
 #include <utility>
@@ -24,10 +25,6 @@ constexpr double rounding = 1e-5;
 
 /** The radius of a patch without any finite vertex. */
 constexpr double nothingToHit = -std::numeric_limits<double>::infinity();
-
-bool isFinite(const SbVec3f& point) {
-    return std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
-}
 
 /** Whether a line comes as near to a point as a radius; also when that cannot be told (NaN). */
 bool comesNear(const SbLine& line, const SbVec3f& center, double radius) {

@@ -59,6 +59,26 @@ inline FloatTriple narrowed(const Triple& triple) {
             static_cast<float>(triple.z)};
 }
 
+/** Coordinate 0, 1 or 2, unchecked. */
+template <typename Number>
+Number coordinate(const TripleOf<Number>& triple, int index) {
+    if (index == 0) {
+        return triple.x;
+    }
+    return index == 1 ? triple.y : triple.z;
+}
+
+inline FloatTriple toFloatTriple(const float (&values)[3]) {
+    return {values[0], values[1], values[2]};
+}
+
+/** Writes x, y, z into an array. */
+inline void store(const FloatTriple& triple, float (&out)[3]) {
+    out[0] = triple.x;
+    out[1] = triple.y;
+    out[2] = triple.z;
+}
+
 /** A 3x3 matrix on the stack, held as its three rows. */
 struct TripleMatrix {
     Triple row0;

@@ -1,14 +1,11 @@
 #include "scene/FiniteSeparator.h"
 
+#include "scene/Finite.h"
+
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/actions/SoRayPickAction.h>
-#include <cmath>
 
 namespace {
-
-bool isFinite(const SbVec3f& point) {
-    return std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
-}
 
 bool isFinite(const SbBox3f& box) {
     return isFinite(box.getMin()) && isFinite(box.getMax());

@@ -1,3 +1,4 @@
+#include "helix/HelixNames.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
@@ -5,6 +6,7 @@
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -17,10 +19,10 @@ public:
     HelixFrame frame{1, 0.5F, 0.25F, 1, 0, 0, 17, true, nullptr};
 
     SoSeparator* tube() const {
-        return SceneReader::childNamed(*frame.getSceneRoot(), "Helix_Tube");
+        return SceneReader::childNamed(*frame.getSceneRoot(), HelixNames::tube);
     }
     SoSeparator* ribbon() const {
-        return SceneReader::childNamed(*frame.getSceneRoot(), "Helix_Ribbon");
+        return SceneReader::childNamed(*frame.getSceneRoot(), HelixNames::ribbon);
     }
     static std::vector<SbVec3f> points(const SoSeparator& part) {
         for (int i = 0; i < part.getNumChildren(); ++i) {
@@ -34,12 +36,50 @@ public:
     static int pointCount(const SoSeparator& part) { return static_cast<int>(points(part).size()); }
 };
 
+/** One setter of the frame, and how the model alone takes the same value. */
+struct Setter {
+    const char* name;
+    std::function<void(HelixFrame&, bool redraw)> set;
+    std::function<void(Helix&)> setModel;
+};
+
+const std::vector<Setter> setters = {
+    {"ribbon range", [](HelixFrame& frame, bool redraw) { frame.set_ribbon_range(0.37, redraw); },
+     [](Helix& helix) {
+         helix.setRibRange(0.37F);
+     }},
+    {"tube radius", [](HelixFrame& frame, bool redraw) { frame.set_tube_radius(0.023, redraw); },
+     [](Helix& helix) {
+         helix.setTubeR(0.023F);
+     }},
+    {"tube precision", [](HelixFrame& frame, bool redraw) { frame.set_precision_tube(11, redraw); },
+     [](Helix& helix) {
+         helix.setPrecisionTube(11);
+     }},
+    {"line precision", [](HelixFrame& frame, bool redraw) { frame.set_precision_line(23, redraw); },
+     [](Helix& helix) {
+         helix.setPrecisionLine(23);
+     }},
+    {"turns", [](HelixFrame& frame, bool redraw) { frame.set_nturns(3.7, redraw); },
+     [](Helix& helix) {
+         helix.setNTurns(3.7F);
+     }}};
+
+/** A helix of the lone frame's point, sampled anew after a setter. */
+Helix freshHelix(const Setter& setter) {
+    Helix helix(1, 0.5F, 0.25F, 1, 0, 0);
+    setter.setModel(helix);
+    helix.init_tables(true, true, true);
+    helix.generatePoints(true, true, true);
+    return helix;
+}
+
 } // namespace
 
 TEST(HelixFrameTest, EachFrameGetsTheNextNameAndNoNameIsUsedTwice) {
     const int before = HelixFrame::helix_nb;
     const auto nameOf = [](int number) {
-        return SbName(("Helix_" + std::to_string(number)).c_str());
+        return SbName((HelixNames::framePrefix + std::to_string(number)).c_str());
     };
     {
         const HelixFrame first(1, 0, 0, 1, 0, 0, 0, true, nullptr);
@@ -64,11 +104,11 @@ TEST(HelixFrameTest, ShowsOneTubeAndOneRibbonBelowTheUpperStructure) {
     LoneHelix lone;
     EXPECT_EQ(SceneReader::childNames(*lone.frame.getSceneRoot()),
               (std::vector<std::string>{"Environment", "Separator", "Separator", "Separator",
-                                        "Helix_Tube", "Helix_Ribbon"}));
+                                        HelixNames::tube, HelixNames::ribbon}));
     lone.frame.Draw();
     lone.frame.Draw();
-    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), "Helix_Tube"), 1);
-    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), "Helix_Ribbon"), 1);
+    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), HelixNames::tube), 1);
+    EXPECT_EQ(SceneReader::countNamed(*lone.frame.getSceneRoot(), HelixNames::ribbon), 1);
     EXPECT_EQ(lone.frame.getSceneRoot()->getNumChildren(), 6);
 }
 
@@ -92,6 +132,21 @@ TEST(HelixFrameTest, RefreshTakesOverThePointAndShowsItsCoordinates) {
     }
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.tube(), 0)->diffuseColor[0], SbColor(0, 1, 0));
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.ribbon(), 0)->diffuseColor[0], SbColor(1, 0, 1));
+}
+
+TEST(HelixFrameTest, TakesAVertexOfTheSurfaceAsItTakesItsNumbers) {
+    HelixFrame frame({23, {0.7F, -0.3F, 0.2F}, {0.1F, 0.6F, 0.9F}}, true, nullptr);
+    const Helix first(0.7F, -0.3F, 0.2F, 0.1F, 0.6F, 0.9F);
+    EXPECT_EQ(frame.getIndex(), 23);
+    EXPECT_EQ(frame.getHelix().getTubeVertices(), first.getTubeVertices());
+    EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.1F, 0.6F, 0.9F}));
+    frame.initialize();
+    frame.refresh({31, {-0.25F, 0.5F, 1.5F}, {0.8F, 0.4F, 0.3F}});
+    const Helix second(-0.25F, 0.5F, 1.5F, 0.8F, 0.4F, 0.3F);
+    EXPECT_EQ(frame.getIndex(), 31);
+    EXPECT_EQ(frame.viewerTitle(), "U = (-0.25; 0.5; 1.5)");
+    EXPECT_EQ(frame.getHelix().getRibbonVertices(), second.getRibbonVertices());
+    EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.8F, 0.4F, 0.3F}));
 }
 
 TEST(HelixFrameTest, TitleHasSixSignificantDigits) {
@@ -136,7 +191,7 @@ TEST(HelixFrameTest, TubeRadiusResamplesOnlyTheTubeAndReplacesBothParts) {
     LoneHelix lone;
     const std::vector<SbVec3f> tubeBefore = LoneHelix::points(*lone.tube());
     const std::vector<SbVec3f> ribbonBefore = LoneHelix::points(*lone.ribbon());
-    ReplacementCounter ribbons(*lone.frame.getSceneRoot(), "Helix_Ribbon");
+    ReplacementCounter ribbons(*lone.frame.getSceneRoot(), HelixNames::ribbon);
     lone.frame.set_ribbon_range(0.2, false);
     lone.frame.set_tube_radius(0.02, true);
     EXPECT_NE(LoneHelix::points(*lone.tube()), tubeBefore);
@@ -164,6 +219,49 @@ TEST(HelixFrameTest, SettersSampleWhatTheyResize) {
     expected.setPrecisionTube(8);
     expected.setPrecisionLine(20);
     expected.setNTurns(3);
+    expected.init_tables(true, true, true);
+    expected.generatePoints(true, true, true);
+    EXPECT_EQ(lone.frame.getHelix().getLineVertices(), expected.getLineVertices());
+    EXPECT_EQ(lone.frame.getHelix().getTubeVertices(), expected.getTubeVertices());
+    EXPECT_EQ(lone.frame.getHelix().getRibbonVertices(), expected.getRibbonVertices());
+}
+
+TEST(HelixFrameTest, EachSetterAloneLeavesTheTablesOfAFreshHelix) {
+    for (const Setter& setter : setters) {
+        SCOPED_TRACE(setter.name);
+        LoneHelix lone;
+        setter.set(lone.frame, true);
+        const Helix& helix = lone.frame.getHelix();
+        const Helix expected = freshHelix(setter);
+        EXPECT_EQ(helix.getLineVertices(), expected.getLineVertices());
+        EXPECT_EQ(helix.getTubeVertices(), expected.getTubeVertices());
+        EXPECT_EQ(helix.getRibbonVertices(), expected.getRibbonVertices());
+        EXPECT_EQ(helix.getLineColors(), expected.getLineColors());
+        EXPECT_EQ(helix.getTubeColors(), expected.getTubeColors());
+        EXPECT_EQ(helix.getRibbonColors(), expected.getRibbonColors());
+    }
+}
+
+TEST(HelixFrameTest, EachSetterWithoutRedrawGivesTheTablesTheirSizes) {
+    for (const Setter& setter : setters) {
+        SCOPED_TRACE(setter.name);
+        LoneHelix lone;
+        setter.set(lone.frame, false);
+        const Helix& helix = lone.frame.getHelix();
+        const Helix expected = freshHelix(setter);
+        EXPECT_EQ(helix.getLineVertices().size(), expected.getLineVertices().size());
+        EXPECT_EQ(helix.getTubeVertices().size(), expected.getTubeVertices().size());
+        EXPECT_EQ(helix.getRibbonVertices().size(), expected.getRibbonVertices().size());
+    }
+}
+
+TEST(HelixFrameTest, SetterWithRedrawSamplesWhatOneWithoutLeftToItToo) {
+    LoneHelix lone;
+    lone.frame.set_precision_line(23, false);
+    lone.frame.set_tube_radius(0.023, true);
+    Helix expected(1, 0.5F, 0.25F, 1, 0, 0);
+    expected.setPrecisionLine(23);
+    expected.setTubeR(0.023F);
     expected.init_tables(true, true, true);
     expected.generatePoints(true, true, true);
     EXPECT_EQ(lone.frame.getHelix().getLineVertices(), expected.getLineVertices());

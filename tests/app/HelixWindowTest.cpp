@@ -1,3 +1,4 @@
+#include "helix/HelixNames.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
@@ -127,7 +128,7 @@ TEST(HelixWindowTest, EveryLabelAndSpinBoxIsReadableAtOnce) {
 
 TEST(HelixWindowTest, ShowsAFreshHelixTruncatedAndTakesTheTruncatedLengthsOver) {
     const OpenedWindow opened;
-    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), "Helix_Tube");
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
     const SliderWindow window = openHelixWindow(opened);
     EXPECT_EQ(window.spinBoxValues(), (std::vector<int>{99, 500, 5, 50, 16}));
     for (int row = 0; row < rowCount; ++row) {
@@ -176,7 +177,7 @@ TEST(HelixWindowTest, TypedValuesMoveTheOtherSlidersAndReachTheHelix) {
 TEST(HelixWindowTest, EachChangeRedrawsTheHelixOnce) {
     const OpenedWindow opened;
     const SliderWindow window = openHelixWindow(opened);
-    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), "Helix_Tube");
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
     for (int row = 0; row < rowCount; ++row) {
         QTest::keyClick(&window.spinBox(row), Qt::Key_Up);
         EXPECT_EQ(drawings.take(), 1) << "spin box " << row;
@@ -191,7 +192,7 @@ TEST(HelixWindowTest, EachChangeRedrawsTheHelixOnce) {
 TEST(HelixWindowTest, OnlyTheSpinBoxesDriveTheHelix) {
     const OpenedWindow opened;
     const SliderWindow window = openHelixWindow(opened);
-    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), "Helix_Tube");
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
     for (int row = 0; row < rowCount; ++row) {
         const QSignalBlocker silentSpinBox(window.spinBox(row));
         window.slider(row).setValue(window.slider(row).maximum());
@@ -309,7 +310,7 @@ TEST(HelixWindowTest, ChangesNothingWhileAHyperboloidIsActive) {
     const OpenedWindow opened;
     const SliderWindow window = openHelixWindow(opened);
     opened.activate(opened.hyperboloid(Hyperboloid::MSPACE));
-    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), "Helix_Tube");
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
     for (int row = 0; row < rowCount; ++row) {
         QTest::keyClick(&window.slider(row), Qt::Key_End);
         QTest::keyClick(&window.spinBox(row), Qt::Key_Down);

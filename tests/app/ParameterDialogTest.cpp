@@ -1,3 +1,4 @@
+#include "helix/HelixNames.h"
 #include "hyperboloid/HyperboloidParameters.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
@@ -349,8 +350,8 @@ TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
             SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
             "Hyperboloid"));
     }
-    drawings.push_back(
-        std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(), "Helix_Tube"));
+    drawings.push_back(std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(),
+                                                            HelixNames::tube));
     const std::vector<DialogDriver::Step> waysOut{[](QWidget& dialog) { click(dialog, "Cancel"); },
                                                   [](QWidget& dialog) { pressEscape(dialog); },
                                                   [](QWidget& dialog) {

@@ -13,15 +13,14 @@ bool sameBits(float one, float other) {
     return (std::isnan(one) && std::isnan(other)) || std::memcmp(&one, &other, sizeof(float)) == 0;
 }
 
-bool sameBits(const Helix::Table& one, const Helix::Table& other) {
+bool sameBits(const Helix::Table& one, const PlainHelix::Table& other) {
     if (one.size() != other.size()) {
         return false;
     }
     for (std::size_t i = 0; i < one.size(); ++i) {
-        for (std::size_t c = 0; c < 3; ++c) {
-            if (!sameBits(one[i][c], other[i][c])) {
-                return false;
-            }
+        const auto [x, y, z] = one[i];
+        if (!sameBits(x, other[i][0]) || !sameBits(y, other[i][1]) || !sameBits(z, other[i][2])) {
+            return false;
         }
     }
     return true;

@@ -1,18 +1,21 @@
 #include "helix/Helix.h"
 
 #include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace {
 
-using Point = std::array<float, 3>;
+using Point = FloatTriple;
 
 float distance(const Point& one, const Point& other) {
-    return std::hypot(one[0] - other[0], one[1] - other[1], one[2] - other[2]);
+    return std::hypot(one.x - other.x, one.y - other.y, one.z - other.z);
 }
 
 Point colorOf(const Helix& helix, const Point& point) {
-    const float pt[3] = {point[0], point[1], point[2]};
+    const float pt[3] = {point.x, point.y, point.z};
     float rgb[3];
     helix.computeColorForPoint(pt, rgb);
     return {rgb[0], rgb[1], rgb[2]};
@@ -83,7 +86,7 @@ TEST(HelixGeometry, ColoursGoByTheCentrePointAndAreAtMostFourFifths) {
         for (std::size_t j = 0; j < 16; ++j) {
             EXPECT_EQ(helix.getTubeColors()[16 * i + j], color);
         }
-        for (const float channel : color) {
+        for (const float channel : {color.x, color.y, color.z}) {
             EXPECT_GE(channel, 0);
             EXPECT_LE(channel, 0.8F);
         }
@@ -93,9 +96,9 @@ TEST(HelixGeometry, ColoursGoByTheCentrePointAndAreAtMostFourFifths) {
 TEST(HelixGeometry, ColourOfAPointFollowsItsFormula) {
     const Helix helix;
     const Point color = colorOf(helix, {2, 3, -5});
-    EXPECT_FLOAT_EQ(color[0], static_cast<float>(std::fabs(std::sin(std::sqrt(9.0))) * 0.8));
-    EXPECT_FLOAT_EQ(color[1], static_cast<float>(std::fabs(std::sin(std::sqrt(25.0))) * 0.8));
-    EXPECT_FLOAT_EQ(color[2], static_cast<float>(std::fabs(std::sin(std::sqrt(4.0))) * 0.8));
+    EXPECT_FLOAT_EQ(color.x, static_cast<float>(std::fabs(std::sin(std::sqrt(9.0))) * 0.8));
+    EXPECT_FLOAT_EQ(color.y, static_cast<float>(std::fabs(std::sin(std::sqrt(25.0))) * 0.8));
+    EXPECT_FLOAT_EQ(color.z, static_cast<float>(std::fabs(std::sin(std::sqrt(4.0))) * 0.8));
 }
 
 TEST(HelixGeometry, FrameVectorsAreUnitAndPerpendicular) {
@@ -125,11 +128,36 @@ TEST(HelixGeometry, SampleOperationsGiveTheTablesVertices) {
     helix.computePositionForParams(center, helix.get_v(s), helix.get_b(s), tube, angle);
     float edge[3];
     helix.computeRibbon(edge, center, helix.d1_from_v_b(helix.get_v(s), helix.get_b(s)));
-    for (std::size_t c = 0; c < 3; ++c) {
-        EXPECT_EQ(center[c], helix.getLineVertices()[17][c]);
-        EXPECT_EQ(tube[c], helix.getTubeVertices()[16 * 17 + 3][c]);
-        EXPECT_EQ(edge[c], helix.getRibbonVertices()[2 * 17 + 1][c]);
+    EXPECT_EQ(toFloatTriple(center), helix.getLineVertices()[17]);
+    EXPECT_EQ(toFloatTriple(tube), helix.getTubeVertices()[16 * 17 + 3]);
+    EXPECT_EQ(toFloatTriple(edge), helix.getRibbonVertices()[2 * 17 + 1]);
+}
+
+TEST(HelixGeometry, VectorsThatAreTooShortThrowTheirOwnMessage) {
+    const Helix helix;
+    const Vecteur whole(0.3, -0.4, 0.5);
+    float center[3] = {1, 2, 3};
+    float out[3] = {7, 8, 9};
+    for (const int dimension : {0, 2}) {
+        const Vecteur tooShort(dimension);
+        const std::vector<std::function<void()>> operations = {
+            [&] { helix.d1_from_v_b(tooShort, whole); },
+            [&] { helix.d1_from_v_b(whole, tooShort); },
+            [&] { helix.computeRibbon(out, center, tooShort); },
+            [&] { helix.computePositionForParams(center, tooShort, whole, out, 0.7F); },
+            [&] {
+                helix.computePositionForParams(center, whole, tooShort, out, 0.7F);
+            }};
+        for (const auto& operation : operations) {
+            try {
+                operation();
+                ADD_FAILURE() << "nothing is thrown for dimension " << dimension;
+            } catch (const std::string& text) {
+                EXPECT_EQ(text, "Erreur surcharge []: dimension depassee.");
+            }
+        }
     }
+    EXPECT_EQ(toFloatTriple(out), (Point{7, 8, 9}));
 }
 
 TEST(HelixGeometry, TubeAndRibbonFollowTheLineAsItWasLastSampled) {
@@ -155,23 +183,6 @@ TEST(HelixGeometry, ChosenTablesOnlyAreSampled) {
     EXPECT_NE(helix.getRibbonVertices(), ribbon);
 }
 
-TEST(HelixGeometry, NewTablesAreZeroUntilSampled) {
-    Helix helix;
-    helix.setPrecisionTube(7);
-    helix.init_tables(false, true, false);
-    EXPECT_EQ(helix.getTubeVertices(), Helix::Table(250 * 7, Point{0, 0, 0}));
-    EXPECT_EQ(helix.getTubeColors(), Helix::Table(250 * 7, Point{0, 0, 0}));
-    EXPECT_NE(helix.getLineVertices()[0], (Point{0, 0, 0}));
-}
-
-TEST(HelixGeometry, CountsChangedWithoutNewTablesOverrunNothing) {
-    Helix helix;
-    helix.setNTurns(10);
-    helix.setPrecisionTube(40);
-    helix.generatePoints(true, true, true);
-    EXPECT_EQ(helix.getTubeVertices().size(), 500U * 40U);
-}
-
 TEST(HelixGeometry, SingleVerticesAreFinite) {
     Helix helix;
     helix.setPrecisionTube(1);
@@ -180,9 +191,8 @@ TEST(HelixGeometry, SingleVerticesAreFinite) {
     helix.init_tables(true, true, true);
     helix.generatePoints(true, true, true);
     ASSERT_EQ(helix.getTubeVertices().size(), 1U);
-    for (const float coordinate : helix.getTubeVertices()[0]) {
-        EXPECT_TRUE(std::isfinite(coordinate));
-    }
+    const auto [x, y, z] = helix.getTubeVertices()[0];
+    EXPECT_TRUE(std::isfinite(x) && std::isfinite(y) && std::isfinite(z));
 }
 
 TEST(HelixGeometry, CopiesAreIndependent) {
@@ -193,18 +203,4 @@ TEST(HelixGeometry, CopiesAreIndependent) {
     EXPECT_EQ(original.getLineVertex(0, 0), 6);
     copy = original;
     EXPECT_EQ(copy.getLineVertices(), original.getLineVertices());
-}
-
-TEST(HelixGeometry, NewRingsGoAlongTheCentreLineThatWasSampledBefore) {
-    Helix helix;
-    const Helix::Table line = helix.getLineVertices();
-    helix.setPrecisionTube(8);
-    helix.generatePoints(false, true, false);
-    EXPECT_EQ(helix.getLineVertices(), line);
-    ASSERT_EQ(helix.getTubeVertices().size(), 8 * line.size());
-    Helix prepared;
-    prepared.setPrecisionTube(8);
-    prepared.init_tables(false, true, false);
-    prepared.generatePoints(false, true, false);
-    EXPECT_EQ(helix.getTubeVertices(), prepared.getTubeVertices());
 }

@@ -1,4 +1,5 @@
 #include "helix/Helix.h"
+#include "helix/HelixNames.h"
 #include "scene/SceneNodes.h"
 
 #include <Inventor/SbViewportRegion.h>
@@ -24,8 +25,8 @@ Node* child(const Part& part, int position) {
 void expectTable(const SoMFVec3f& field, const Helix::Table& table) {
     ASSERT_EQ(field.getNum(), static_cast<int>(table.size()));
     for (int i = 0; i < field.getNum(); ++i) {
-        const auto& entry = table[static_cast<std::size_t>(i)];
-        ASSERT_EQ(field[i], SbVec3f(entry[0], entry[1], entry[2]));
+        const auto& [x, y, z] = table[static_cast<std::size_t>(i)];
+        ASSERT_EQ(field[i], SbVec3f(x, y, z));
     }
 }
 
@@ -34,18 +35,28 @@ void expectColors(const SoMaterial& material, const Helix::Table& table) {
          {&material.ambientColor, &material.diffuseColor, &material.specularColor}) {
         ASSERT_EQ(field->getNum(), static_cast<int>(table.size()));
         for (int i = 0; i < field->getNum(); ++i) {
-            const auto& entry = table[static_cast<std::size_t>(i)];
-            ASSERT_EQ((*field)[i], SbColor(entry[0], entry[1], entry[2]));
+            const auto& [red, green, blue] = table[static_cast<std::size_t>(i)];
+            ASSERT_EQ((*field)[i], SbColor(red, green, blue));
         }
     }
 }
 
 } // namespace
 
+TEST(HelixNodes, PartsBearTheirNames) {
+    const Helix helix;
+    EXPECT_EQ(Part(helix.DrawLine())->getName(), SbName("Helix_Line"));
+    EXPECT_EQ(Part(helix.DrawTube())->getName(), SbName("Helix_Tube"));
+    EXPECT_EQ(Part(helix.DrawRibbon())->getName(), SbName("Helix_Ribbon"));
+    EXPECT_STREQ(HelixNames::line, "Helix_Line");
+    EXPECT_STREQ(HelixNames::tube, "Helix_Tube");
+    EXPECT_STREQ(HelixNames::ribbon, "Helix_Ribbon");
+    EXPECT_STREQ(HelixNames::framePrefix, "Helix_");
+}
+
 TEST(HelixNodes, LineIsOnePolylineColouredByVertex) {
     const Helix helix;
     const Part line(helix.DrawLine());
-    EXPECT_EQ(line->getName(), SbName("Helix_Line"));
     ASSERT_EQ(line->getNumChildren(), 4);
     expectColors(*child<SoMaterial>(line, 0), helix.getLineColors());
     EXPECT_EQ(child<SoMaterialBinding>(line, 1)->value.getValue(), SoMaterialBinding::PER_VERTEX);
@@ -58,7 +69,6 @@ TEST(HelixNodes, LineIsOnePolylineColouredByVertex) {
 TEST(HelixNodes, TubeWithoutAColourIsColouredByVertex) {
     const Helix helix;
     const Part tube(helix.DrawTube());
-    EXPECT_EQ(tube->getName(), SbName("Helix_Tube"));
     ASSERT_EQ(tube->getNumChildren(), 4);
     expectColors(*child<SoMaterial>(tube, 0), helix.getTubeColors());
     EXPECT_EQ(child<SoMaterialBinding>(tube, 1)->value.getValue(), SoMaterialBinding::PER_VERTEX);
@@ -71,7 +81,6 @@ TEST(HelixNodes, TubeWithoutAColourIsColouredByVertex) {
 TEST(HelixNodes, RibbonWithoutAColourIsColouredByVertex) {
     const Helix helix;
     const Part ribbon(helix.DrawRibbon());
-    EXPECT_EQ(ribbon->getName(), SbName("Helix_Ribbon"));
     ASSERT_EQ(ribbon->getNumChildren(), 4);
     expectColors(*child<SoMaterial>(ribbon, 0), helix.getRibbonColors());
     EXPECT_EQ(child<SoMaterialBinding>(ribbon, 1)->value.getValue(), SoMaterialBinding::PER_VERTEX);
@@ -96,9 +105,9 @@ TEST(HelixNodes, ColouredHelixHasAUniformTubeAndTheComplementaryRibbon) {
 }
 
 TEST(HelixNodes, AnyColourButBlackIsUniform) {
-    for (const std::array<float, 3> color :
-         {std::array<float, 3>{1e-6F, 0, 0}, {0, 1e-6F, 0}, {0, 0, 1e-6F}}) {
-        const Helix helix(1, 0.5F, 0.25F, color[0], color[1], color[2]);
+    for (const auto& [red, green, blue] :
+         {FloatTriple{1e-6F, 0, 0}, {0, 1e-6F, 0}, {0, 0, 1e-6F}}) {
+        const Helix helix(1, 0.5F, 0.25F, red, green, blue);
         EXPECT_EQ(Part(helix.DrawTube())->getNumChildren(), 3);
     }
     const Helix black(1, 0.5F, 0.25F, 0, 0, 0);
@@ -113,22 +122,6 @@ TEST(HelixNodes, LaterChangesOfTheTablesDoNotReachTheNodes) {
     helix.setTubeR(1);
     helix.generatePoints(true, true, true);
     EXPECT_EQ(child<SoCoordinate3>(tube, 2)->point[7], before);
-}
-
-TEST(HelixNodes, MeshesNeverTakeMoreVerticesThanThereAre) {
-    Helix helix;
-    helix.setNTurns(10);
-    helix.setPrecisionTube(100);
-    for (SoSeparator* node : {helix.DrawTube(), helix.DrawRibbon()}) {
-        const Part part(node);
-        const auto& mesh = *child<SoQuadMesh>(part, 3);
-        const int points = child<SoCoordinate3>(part, 2)->point.getNum();
-        EXPECT_GT(points, 0);
-        EXPECT_LE(mesh.verticesPerRow.getValue() * mesh.verticesPerColumn.getValue(), points);
-    }
-    const Part line(helix.DrawLine());
-    EXPECT_EQ(child<SoLineSet>(line, 3)->numVertices[0],
-              child<SoCoordinate3>(line, 2)->point.getNum());
 }
 
 TEST(HelixNodes, EveryCallBuildsNewNodes) {

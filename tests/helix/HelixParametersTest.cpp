@@ -24,7 +24,7 @@ TEST(HelixParameters, DefaultHelixHasItsNumbers) {
     EXPECT_EQ(helix.getPrecisionLine(), 50U);
     EXPECT_EQ(helix.getNbLineVertices(), 250U);
     EXPECT_EQ(helix.getPrecisionTube(), 16U);
-    EXPECT_EQ(helix.getHelixColor(), (std::array<float, 3>{0, 0, 0}));
+    EXPECT_EQ(helix.getHelixColor(), (FloatTriple{0, 0, 0}));
 }
 
 TEST(HelixParameters, ConversionsAgreeWithTheStoredPairsAndStoreNothing) {
@@ -68,7 +68,7 @@ TEST(HelixParameters, PointGivesCurvatureTorsionAndColour) {
     EXPECT_EQ(helix.getRadius(), 0.1F);
     EXPECT_EQ(helix.getPitch(), 0.1F);
     EXPECT_EQ(helix.getOmega(), 1 / std::sqrt(0.1F * 0.1F + 0.1F * 0.1F));
-    EXPECT_EQ(helix.getHelixColor(), (std::array<float, 3>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(helix.getHelixColor(), (FloatTriple{0.1F, 0.2F, 0.3F}));
     EXPECT_EQ(helix.getNbLineVertices(), 250U);
 }
 
@@ -121,9 +121,8 @@ TEST(HelixParameters, StraightRodIsReportedAndStaysDrawable) {
     EXPECT_EQ(helix.getPitch(), 0.5F);
     EXPECT_EQ(helix.getPhi(), 0);
     helix.generatePoints(true, true, true);
-    for (const auto& vertex : helix.getTubeVertices()) {
-        EXPECT_TRUE(std::isfinite(vertex[0]) && std::isfinite(vertex[1]) &&
-                    std::isfinite(vertex[2]));
+    for (const auto& [x, y, z] : helix.getTubeVertices()) {
+        EXPECT_TRUE(std::isfinite(x) && std::isfinite(y) && std::isfinite(z));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "tests/random/Invariants.h"
 
+#include "helix/HelixNames.h"
 #include "tests/random/VisibleSurface.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/SceneReader.h"
@@ -71,7 +72,7 @@ void checkSpheres(const OpenedWindow& opened, const HyperboloidFrame& frame) {
     const std::vector<HelixFrame*> helices = opened.helices();
     std::size_t spheres = 0;
     for (const std::string& name : SceneReader::childNames(branch)) {
-        spheres += name.rfind("Helix_", 0) == 0 ? 1 : 0;
+        spheres += name.rfind(HelixNames::framePrefix, 0) == 0 ? 1 : 0;
     }
     EXPECT_EQ(spheres, helices.size());
     for (const HelixFrame* helix : helices) {
@@ -100,7 +101,7 @@ void checkHyperboloids(const OpenedWindow& opened) {
 
 /** Every mesh of the helix's scene has as many coordinates as it takes vertices from them. */
 void checkShownHelix(const HelixFrame& frame) {
-    for (const char* part : {"Helix_Tube", "Helix_Ribbon"}) {
+    for (const char* part : {HelixNames::tube, HelixNames::ribbon}) {
         const SoSeparator* node = SceneReader::childNamed(*frame.getSceneRoot(), part);
         ASSERT_NE(node, nullptr) << part;
         int points = 0;

@@ -51,12 +51,12 @@ Grid gridOf(const HelixFrame& frame) {
               {},
               {}};
     const auto& color = helix.getHelixColor();
-    const bool uniform = color != std::array<float, 3>{0, 0, 0};
+    const bool uniform = color != FloatTriple{0, 0, 0};
     for (std::size_t i = 0; i < helix.getTubeVertices().size(); ++i) {
         const auto& point = helix.getTubeVertices()[i];
         const auto& own = uniform ? color : helix.getTubeColors()[i];
-        grid.points.emplace_back(point[0], point[1], point[2]);
-        grid.brightness.push_back(brightest(own[0], own[1], own[2]));
+        grid.points.emplace_back(point.x, point.y, point.z);
+        grid.brightness.push_back(brightest(own.x, own.y, own.z));
     }
     return grid;
 }
