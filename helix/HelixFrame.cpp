@@ -34,8 +34,8 @@ SbName HelixFrame::getName() const {
 void HelixFrame::SetEventHandlers() {}
 
 void HelixFrame::Draw() {
-    removeSceneChild("Helix_Tube", root.get());
-    removeSceneChild("Helix_Ribbon", root.get());
+    removeSceneChild("Helix_Tube", root);
+    removeSceneChild("Helix_Ribbon", root);
     root->addChild(helix.DrawTube());
     root->addChild(helix.DrawRibbon());
 }
