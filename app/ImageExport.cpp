@@ -1,7 +1,7 @@
 #include "app/ImageExport.h"
 
-#include "scene/SceneNodes.h"
 #include "viewer/OffscreenContexts.h"
+#include "viewer/SeenScene.h"
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 #include <Inventor/SoOffscreenRenderer.h>
@@ -9,24 +9,13 @@
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <Inventor/nodes/SoShapeHints.h>
 
 namespace {
 
-/**
- * The scene under the viewer's lighting and camera, which are not part of the scene itself.
- *
- * The light comes before the camera, as in the viewer's own graph: so it turns with the camera.
- */
+/** The scene under the viewer's light and camera, which are not part of the scene itself. */
 NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root) {
-    NodePointer<SoSeparator> picture(new SoSeparator);
-    picture->addChild(SceneNodes::createTwoSidedLighting());
-    if (viewer.isHeadlight()) {
-        picture->addChild(viewer.getHeadlight());
-    }
-    picture->addChild(viewer.getCamera());
-    picture->addChild(root);
-    return picture;
+    SoLight* headlight = viewer.isHeadlight() ? viewer.getHeadlight() : nullptr;
+    return SeenScene::around(root, headlight, viewer.getCamera());
 }
 
 } // namespace

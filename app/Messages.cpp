@@ -1,5 +1,7 @@
 #include "app/Messages.h"
 
+#include "resources/TorvaneResources.h"
+
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
@@ -19,6 +21,7 @@ void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
     QDialog box(parent);
     // On purpose spelt so, and not translated: users know the message by this text.
     auto* text = new QLabel("This condition isn't satysfied:");
+    registerTorvaneResources();
     auto* picture = new QLabel;
     picture->setPixmap(QPixmap(picturePath));
     auto* ok = new QPushButton("Ok");

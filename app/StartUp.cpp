@@ -1,16 +1,14 @@
 #include "app/StartUp.h"
 
+#include "resources/TorvaneResources.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPixmap>
 #include <QSplashScreen>
-#include <QStringList>
 #include <QWindow>
 
 namespace {
-
-bool isSet(const char* variable) {
-    return qEnvironmentVariableIsSet(variable);
-}
 
 /** How long a window is waited for on a window system that never exposes it, in milliseconds. */
 constexpr int patience = 500;
@@ -25,20 +23,9 @@ void waitUntilExposed(const QWidget& widget) {
 
 } // namespace
 
-void StartUp::prepareEnvironment() {
-    // The OpenGL widget is not reliable on Wayland; through the X server beside it, it is.
-    if (isSet("DISPLAY") && !isSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "xcb");
-    }
-    // SoQt makes its OpenGL widget too large under Qt's automatic scaling.
-    if (!isSet("QT_ENABLE_HIGHDPI_SCALING") && !isSet("QT_AUTO_SCREEN_SCALE_FACTOR")) {
-        qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
-    }
-}
-
-void StartUp::setPlugInPath() {
-    QCoreApplication::setLibraryPaths(
-        QStringList(QCoreApplication::applicationDirPath() + "/../PlugIns"));
+QPixmap StartUp::splashPicture() {
+    registerTorvaneResources();
+    return QPixmap(":/images/splash.png");
 }
 
 void StartUp::showSplash(QSplashScreen& splash) {

@@ -1,20 +1,20 @@
 #include "app/MainWindow.h"
 #include "app/StartUp.h"
 #include "app/TerminationSignals.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <QApplication>
-#include <QPixmap>
 #include <QSplashScreen>
 #include <memory>
 
 int main(int argc, char** argv) {
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     QApplication application(argc, argv);
-    StartUp::setPlugInPath();
+    WindowSystem::setPlugInPath();
     TerminationSignals terminationSignals;
 
-    QSplashScreen splash(QPixmap(":/images/splash.png"));
+    QSplashScreen splash(StartUp::splashPicture());
     StartUp::showSplash(splash);
 
     auto mainWindow = std::make_unique<MainWindow>();

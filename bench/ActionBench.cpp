@@ -2,10 +2,10 @@
 // never shown, so that no view is drawn.
 
 #include "app/MainWindow.h"
-#include "app/StartUp.h"
 #include "bench/RatioReporter.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -111,7 +111,7 @@ void registerAll() {
 } // namespace
 
 int main(int argc, char** argv) {
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     const QApplication application(argc, argv);
     QWidget toolkitWindow;
     SoQt::init(&toolkitWindow);

@@ -2,10 +2,10 @@
 // the rasteriser's own threads come on top; they are not counted.
 
 #include "app/MainWindow.h"
-#include "app/StartUp.h"
 #include "bench/RatioReporter.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -98,7 +98,7 @@ void drawNewSurface(State& state, SoSeparator::CacheEnabled caching) {
 } // namespace
 
 int main(int argc, char** argv) {
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     const QApplication application(argc, argv);
     QWidget toolkitWindow;
     SoQt::init(&toolkitWindow);

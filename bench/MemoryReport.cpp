@@ -4,9 +4,9 @@
 // hold, and beside what the libraries take to show such meshes in a bare program.
 
 #include "app/MainWindow.h"
-#include "app/StartUp.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "tests/support/ResidentMemory.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
@@ -128,7 +128,7 @@ int main(int argc, char** argv) {
         std::fflush(stdout);
         return reportApart("viewer") + reportApart("bare");
     }
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     const QApplication application(argc, argv);
     QWidget toolkitWindow;
     SoQt::init(&toolkitWindow);

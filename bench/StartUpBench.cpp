@@ -8,6 +8,7 @@
 #include "app/StartUp.h"
 #include "bench/RatioReporter.h"
 #include "viewer/SoQtGeneralViewerFrame.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
@@ -64,7 +65,7 @@ private:
 };
 
 int runBareProgram(int argc, char** argv) {
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     const QApplication application(argc, argv);
     QMainWindow window;
     auto* area = new QMdiArea;
@@ -97,10 +98,10 @@ int runBareProgram(int argc, char** argv) {
 
 /** The same steps as the program's own. */
 int runViewer(int argc, char** argv) {
-    StartUp::prepareEnvironment();
+    WindowSystem::prepareEnvironment();
     const QApplication application(argc, argv);
-    StartUp::setPlugInPath();
-    QSplashScreen splash(QPixmap(":/images/splash.png"));
+    WindowSystem::setPlugInPath();
+    QSplashScreen splash(StartUp::splashPicture());
     StartUp::showSplash(splash);
     MainWindow window;
     window.resize(windowSize);

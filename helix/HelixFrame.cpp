@@ -38,8 +38,8 @@ SbName HelixFrame::getName() const {
 void HelixFrame::SetEventHandlers() {}
 
 void HelixFrame::Draw() {
-    removeSceneChild(HelixNames::tube, root.get());
-    removeSceneChild(HelixNames::ribbon, root.get());
+    removeSceneChild(HelixNames::tube, root);
+    removeSceneChild(HelixNames::ribbon, root);
     root->addChild(helix.DrawTube());
     root->addChild(helix.DrawRibbon());
 }

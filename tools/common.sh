@@ -67,7 +67,7 @@ memcheck() {
     shift
     local program
     local filter='--gtest_filter=-*FinestGrid*:*FineGrids*:*PicksExactlyWhat*'
-    for program in "$folder"/bin/{math,helix,scene,hyperboloid,data_text,resources,shrinking}_test; do
+    for program in "$folder"/bin/{math,helix,scene,hyperboloid,document_scene,data_text,resources,shrinking}_test; do
         echo "memcheck $program"
         valgrind --quiet --error-exitcode=1 --track-origins=yes "$program" --gtest_brief=1 "$filter" "$@"
     done

@@ -1,13 +1,12 @@
 #include "viewer/SoQtGeneralViewer.h"
 
-#include "scene/SceneNodes.h"
+#include "viewer/SeenScene.h"
 #include "viewer/SoQtGeneralViewerFrame.h"
 
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <Inventor/nodes/SoShapeHints.h>
 #include <Inventor/system/gl.h>
 #include <QWidget>
 #include <QWindow>
@@ -21,9 +20,8 @@ SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* 
 }
 
 void SoQtGeneralViewer::lightBothSides() {
-    // Into the viewer's own graph around the scene, which also holds its headlight and its camera.
-    auto* around = static_cast<SoSeparator*>(getSceneManager()->getSceneGraph());
-    around->insertChild(SceneNodes::createTwoSidedLighting(), 0);
+    // The viewer's own graph around the scene, not the scene.
+    SeenScene::lightBothSides(static_cast<SoSeparator&>(*getSceneManager()->getSceneGraph()));
 }
 
 SbBool SoQtGeneralViewer::isSeekMode() const {

@@ -1,56 +1,25 @@
 #include "viewer/SoQtGeneralViewerFrame.h"
 
+#include "viewer/Backdrop.h"
+#include "viewer/DocumentScene.h"
 #include "viewer/FrameOwner.h"
+#include "viewer/Lights.h"
+#include "viewer/ShaderPrograms.h"
 #include "viewer/SoQtGeneralViewer.h"
 #include "viewer/WindowTitleKeeper.h"
 
-#include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
-#include <Inventor/nodes/SoDrawStyle.h>
 #include <Inventor/nodes/SoEnvironment.h>
-#include <Inventor/nodes/SoFont.h>
-#include <Inventor/nodes/SoFragmentShader.h>
-#include <Inventor/nodes/SoMaterial.h>
-#include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoShaderProgram.h>
-#include <Inventor/nodes/SoSwitch.h>
-#include <Inventor/nodes/SoText3.h>
-#include <Inventor/nodes/SoTransform.h>
-#include <Inventor/nodes/SoUnits.h>
-#include <Inventor/nodes/SoVertexShader.h>
 #include <QCloseEvent>
 #include <QGLWidget>
-#include <QResource>
 
 namespace {
 
 constexpr int smallestWidth = 400;
 constexpr int smallestHeight = 300;
 constexpr int samplesPerPixel = 4;
-constexpr float ambientIntensity = 0.2F;
-constexpr float thinLine = 0.125F;
-
-/** The children of shadingSwitch. */
-constexpr int phongChild = 0;
-constexpr int solidChild = 1;
-
-/** The text of a resource with its exact length: resource data carries no terminating zero. */
-QByteArray resourceText(const char* path) {
-    const QResource resource{QString(path)};
-    return {reinterpret_cast<const char*>(resource.data()), static_cast<int>(resource.size())};
-}
-
-void setSource(SoShaderObject& shader, const char* path) {
-    shader.sourceType = SoShaderObject::GLSL_PROGRAM;
-    shader.sourceProgram = resourceText(path).constData();
-}
-
-SoUnits* createUnits(SoUnits::Units value) {
-    auto* units = new SoUnits;
-    units->units = value;
-    return units;
-}
 
 } // namespace
 
@@ -70,7 +39,7 @@ SoQtGeneralViewerFrame::SoQtGeneralViewerFrame(bool closable, FrameOwner* owner)
 
 SoQtGeneralViewerFrame::~SoQtGeneralViewerFrame() {
     // The viewer goes before the widgets that the frame holds, and the scene before the viewer.
-    root.reset();
+    scene.reset();
     viewer.reset();
 }
 
@@ -92,35 +61,16 @@ void SoQtGeneralViewerFrame::initialize() {
 }
 
 void SoQtGeneralViewerFrame::buildScene() {
-    root = new SoSeparator;
-    root->addChild(createEnvironment(ambientIntensity));
-    phongProgram = createShaderProgram(":/phong.vert.glsl", ":/phong.frag.glsl");
-    solidProgram = createShaderProgram(":/solid.vert.glsl", ":/solid.frag.glsl");
-    drawStyle = new SoDrawStyle;
-    drawStyle->lineWidth = thinLine;
-
-    solidSeparator = new SoSeparator;
-    solidSeparator->addChild(solidProgram);
-    root->addChild(solidSeparator);
-
-    phongSeparator = new SoSeparator;
-    phongSeparator->addChild(phongProgram);
-    root->addChild(phongSeparator);
-
-    drawStyleSeparator = new SoSeparator;
-    drawStyleSeparator->addChild(drawStyle);
-    shadingSwitch = new SoSwitch;
-    shadingSwitch->addChild(phongProgram);
-    shadingSwitch->addChild(solidProgram);
-    shadingSwitch->whichChild = phongChild;
-    drawStyleSeparator->addChild(shadingSwitch);
-    root->addChild(drawStyleSeparator);
+    scene = std::make_unique<DocumentScene>();
+    root = scene->getRoot();
+    phongSeparator = scene->getPhongSeparator();
+    drawStyleSeparator = scene->getDrawStyleSeparator();
 }
 
 void SoQtGeneralViewerFrame::createViewer() {
     const WindowTitleKeeper keeper(window());
     viewer = std::make_unique<SoQtGeneralViewer>(this, title.toLocal8Bit().constData(), 1);
-    viewer->setSceneGraph(root.get());
+    viewer->setSceneGraph(root);
     viewer->lightBothSides();
     viewer->setFeedbackVisibility(TRUE);
     enableMultisampling();
@@ -153,93 +103,29 @@ QSize SoQtGeneralViewerFrame::minimumSize() const {
 }
 
 void SoQtGeneralViewerFrame::toggleDrawStyle() {
-    switch (drawStyleState) {
-    case 0:
-        shadingSwitch->whichChild = solidChild;
-        drawStyle->style = SoDrawStyle::FILLED;
-        drawStyleState = 1;
-        break;
-    case 1:
-        shadingSwitch->whichChild = solidChild;
-        drawStyle->style = SoDrawStyle::LINES;
-        drawStyleState = 2;
-        break;
-    default:
-        shadingSwitch->whichChild = phongChild;
-        drawStyle->style = SoDrawStyle::FILLED;
-        drawStyleState = 0;
-        break;
-    }
+    scene->toggleDrawStyle();
 }
 
 void SoQtGeneralViewerFrame::removeSceneChild(SbName name, SoSeparator* parent) {
-    SoSearchAction search;
-    search.setName(name);
-    search.setInterest(SoSearchAction::FIRST);
-    search.apply(parent);
-    if (search.getPath() == nullptr) {
-        return;
-    }
-    const int child = parent->findChild(search.getPath()->getTail());
-    if (child >= 0) {
-        parent->removeChild(child);
-    }
+    DocumentScene::removeChild(name, *parent);
 }
 
 SoDirectionalLight* SoQtGeneralViewerFrame::createDirectionalLight(float intensity,
                                                                    SbVec3f direction) {
-    auto* light = new SoDirectionalLight;
-    light->direction = direction;
-    light->intensity = intensity;
-    light->color.setValue(1, 1, 1);
-    return light;
+    return Lights::createDirectionalLight(intensity, direction);
 }
 
 SoEnvironment* SoQtGeneralViewerFrame::createEnvironment(float ambient) {
-    auto* environment = new SoEnvironment;
-    environment->ambientIntensity = ambient;
-    environment->ambientColor.setValue(1, 1, 1);
-    return environment;
+    return Lights::createEnvironment(ambient);
 }
 
 SoShaderProgram* SoQtGeneralViewerFrame::createShaderProgram(const char* vertexPath,
                                                              const char* fragmentPath) {
-    auto* vertexShader = new SoVertexShader;
-    setSource(*vertexShader, vertexPath);
-    auto* fragmentShader = new SoFragmentShader;
-    setSource(*fragmentShader, fragmentPath);
-    auto* program = new SoShaderProgram;
-    program->shaderObject.set1Value(0, vertexShader);
-    program->shaderObject.set1Value(1, fragmentShader);
-    return program;
+    return ShaderPrograms::create(vertexPath, fragmentPath);
 }
 
 void SoQtGeneralViewerFrame::setBackground() {
-    auto* camera = new SoOrthographicCamera;
-    camera->position.setValue(0, 0, 1);
-    camera->nearDistance = 0.5F;
-    camera->farDistance = 1.5F;
-    camera->height = 10;
-
-    auto* corner = new SoTransform;
-    corner->translation.setValue(-12000, 8000, 0);
-    auto* red = new SoMaterial;
-    red->diffuseColor.setValue(1, 0, 0);
-    auto* font = new SoFont;
-    font->name = "Times-Roman";
-    font->size = 0.5F;
-    auto* greeting = new SoText3;
-    greeting->string = "Ciao";
-
-    SoSeparator* background = SceneNodes::createSeparator("Background");
-    background->addChild(camera);
-    background->addChild(createUnits(SoUnits::POINTS));
-    background->addChild(corner);
-    background->addChild(createUnits(SoUnits::METERS));
-    background->addChild(red);
-    background->addChild(font);
-    background->addChild(greeting);
-    root->addChild(background);
+    root->addChild(Backdrop::create());
 }
 
 void SoQtGeneralViewerFrame::closeEvent(QCloseEvent* event) {

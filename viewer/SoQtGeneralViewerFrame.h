@@ -1,6 +1,6 @@
 #pragma once
 
-#include "scene/SceneNodes.h"
+#include "viewer/DocumentScene.h"
 
 #include <Inventor/SbName.h>
 #include <Inventor/SbVec3f.h>
@@ -12,29 +12,15 @@
 class FrameOwner;
 class QCloseEvent;
 class SoDirectionalLight;
-class SoDrawStyle;
 class SoEnvironment;
 class SoEvent;
 class SoQtGeneralViewer;
 class SoSeparator;
 class SoShaderProgram;
-class SoSwitch;
 
 /**
  * The base of every document: a frame with a scene, an examiner viewer that shows it, a running
  * number and a title.
- *
- * The scene's upper part, in order:
- *
- *     root
- *       environment                 ambient light, intensity 0.2, white
- *       solidSeparator              what is always drawn in plain colours
- *         solidProgram
- *       phongSeparator              what is always lit
- *         phongProgram
- *       drawStyleSeparator          what follows toggleDrawStyle()
- *         drawStyle
- *         shadingSwitch             child 0 phongProgram, child 1 solidProgram
  *
  * A subclass fills the scene in Draw() and reacts to events in processSoEvent().
  */
@@ -75,7 +61,9 @@ public:
     virtual void toggleDrawStyle();
 
     int getId() const { return id; }
-    SoSeparator* getSceneRoot() const { return root.get(); }
+
+    /** The root of the scene, null before initialize(); see DocumentScene for what is below it. */
+    SoSeparator* getSceneRoot() const { return root; }
 
     /** The viewer, null before initialize(). */
     SoQtGeneralViewer* getViewer() const { return viewer.get(); }
@@ -100,13 +88,13 @@ public:
     /** Removes the first node of this name from the parent, if it is a child of the parent. */
     void removeSceneChild(SbName name, SoSeparator* parent);
 
-    /** A new white light from the given direction, unreferenced. */
+    /** A new white light that shines in the given direction, unreferenced. */
     SoDirectionalLight* createDirectionalLight(float intensity, SbVec3f direction);
 
     /** A new environment with white ambient light of the given intensity, unreferenced. */
     SoEnvironment* createEnvironment(float ambient);
 
-    /** A new GLSL program from two resources, unreferenced; a missing resource is empty text. */
+    /** A new GLSL program from two resources, unreferenced; see ShaderPrograms. */
     SoShaderProgram* createShaderProgram(const char* vertexPath, const char* fragmentPath);
 
     /** Adds a backdrop with a greeting to the scene. */
@@ -119,17 +107,14 @@ protected:
     QString title;
     bool closableAlone;
     std::string type;
-    SoSwitch* shadingSwitch = nullptr;
-    SoDrawStyle* drawStyle = nullptr;
-    NodePointer<SoSeparator> root;
-    SoSeparator* drawStyleSeparator = nullptr;
-    SoSeparator* solidSeparator = nullptr;
+    /** The scene, null before initialize(). */
+    std::unique_ptr<DocumentScene> scene;
+    // Where subclasses put their nodes: parts of the scene, null before initialize().
+    SoSeparator* root = nullptr;
     SoSeparator* phongSeparator = nullptr;
-    int drawStyleState = 0;
+    SoSeparator* drawStyleSeparator = nullptr;
     std::unique_ptr<SoQtGeneralViewer> viewer;
     FrameOwner* mainWindow;
-    SoShaderProgram* phongProgram = nullptr;
-    SoShaderProgram* solidProgram = nullptr;
 
 private:
     void buildScene();

@@ -1,9 +1,8 @@
 #include "tests/support/OpenedWindow.h"
-#include "tests/support/RedrawCounter.h"
+#include "tests/support/RedrawCounters.h"
 #include "tests/support/SliderWindow.h"
 
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace {
 
@@ -12,26 +11,16 @@ class CountedWindow {
 public:
     CountedWindow() {
         opened.tie(opened.firstHelix(), opened.hyperboloid(Hyperboloid::USPACE));
-        for (const SoQtGeneralViewerFrame* frame : opened.frames()) {
-            counters.push_back(std::make_unique<RedrawCounter>(*frame));
-        }
         drawings();
     }
 
     /** How often each view was drawn since the last call. */
-    std::vector<int> drawings() {
-        RedrawCounter::settle();
-        std::vector<int> counts;
-        for (const auto& counter : counters) {
-            counts.push_back(counter->take());
-        }
-        return counts;
-    }
+    std::vector<int> drawings() { return counters.take(); }
 
-    OpenedWindow opened;
+    const OpenedWindow opened;
 
 private:
-    std::vector<std::unique_ptr<RedrawCounter>> counters;
+    RedrawCounters counters{opened.frames()};
 };
 
 using Counts = std::vector<int>;
@@ -55,26 +44,6 @@ TEST(Redraw, PickDrawsEveryViewOnce) {
                    SbVec3f(u.getVertex(index, 0), u.getVertex(index, 1), u.getVertex(index, 2))));
     EXPECT_NE(counted.opened.firstHelix().getIndex(), 0);
     EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
-}
-
-TEST(Redraw, PickBesideTheSurfaceDrawsNothing) {
-    CountedWindow counted;
-    ViewDriver(counted.opened.hyperboloid(Hyperboloid::USPACE))
-        .click(Qt::RightButton, QPoint(2, 2));
-    EXPECT_EQ(counted.drawings(), (Counts{0, 0, 0, 0}));
-}
-
-TEST(Redraw, EachMoveOfTheMouseThatTurnsTheCameraDrawsItsViewOnce) {
-    CountedWindow counted;
-    const ViewDriver view(counted.opened.hyperboloid(Hyperboloid::USPACE));
-    QTest::mousePress(&view.widget(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
-    view.moveDragging(Qt::LeftButton, QPoint(102, 101));
-    counted.drawings();
-    for (const int x : {120, 150, 151}) {
-        view.moveDragging(Qt::LeftButton, QPoint(x, 110));
-        EXPECT_EQ(counted.drawings(), (Counts{1, 0, 0, 0}));
-    }
-    QTest::mouseRelease(&view.widget(), Qt::LeftButton, Qt::NoModifier, QPoint(151, 110));
 }
 
 TEST(Redraw, HelixSliderDrawsTheHelixOnceForEachStep) {
@@ -112,12 +81,6 @@ TEST(Redraw, ParameterChangeDrawsEveryViewOnce) {
                                                  0.02, 0.03);
     counted.opened.window().refresh_helixs(before);
     EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
-}
-
-TEST(Redraw, DrawStyleDrawsItsOwnViewOnly) {
-    CountedWindow counted;
-    ViewDriver(counted.opened.hyperboloid(Hyperboloid::USPACE)).key(Qt::Key_Space);
-    EXPECT_EQ(counted.drawings(), (Counts{1, 0, 0, 0}));
 }
 
 TEST(Redraw, StatusAndMenusDrawNothing) {

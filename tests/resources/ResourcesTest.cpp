@@ -1,3 +1,5 @@
+#include "resources/TorvaneResources.h"
+
 #include <QDir>
 #include <QImage>
 #include <QResource>
@@ -42,6 +44,17 @@ const Picture pictures[] = {{":/images/splash.png", 400, 343, trueColorWithAlpha
                             {":/images/err2.png", 101, 17, palette}};
 
 } // namespace
+
+// First of all: nothing has asked for the registration yet, but the call below, which ties the
+// collection into this program.
+TEST(Resources, AreThereBeforeMainAndStayTheSameWhenAskedForAgain) {
+    const std::string before = bytesOf(shaders[0]);
+    EXPECT_FALSE(before.empty());
+    const QStringList files = QDir(":/").entryList(QDir::Files);
+    registerTorvaneResources();
+    EXPECT_EQ(bytesOf(shaders[0]), before);
+    EXPECT_EQ(QDir(":/").entryList(QDir::Files), files);
+}
 
 TEST(Resources, HoldExactlyTheShadersAndThePictures) {
     // Qt's own libraries keep theirs in other folders of the same tree.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/StartUp.h"
+#include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
 #include <QApplication>
@@ -29,7 +29,7 @@ private:
     /** The environment must be in place before the application object is. */
     static int& prepared(int& argc, const QTemporaryDir& folder) {
         qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
-        StartUp::prepareEnvironment();
+        WindowSystem::prepareEnvironment();
         return argc;
     }
 

@@ -35,12 +35,10 @@ public:
         return consumes ? 1 : 0;
     }
 
-    SoSwitch& shading() const { return *shadingSwitch; }
-    SoDrawStyle& style() const { return *drawStyle; }
-    SoShaderProgram* phong() const { return phongProgram; }
-    SoShaderProgram* solid() const { return solidProgram; }
+    const DocumentScene& documentScene() const { return *scene; }
+    SoSwitch& shading() const { return *scene->getShadingSwitch(); }
+    SoDrawStyle& style() const { return *scene->getDrawStyle(); }
     SoSeparator* phongBranch() const { return phongSeparator; }
-    SoSeparator* solidBranch() const { return solidSeparator; }
     SoSeparator* drawStyleBranch() const { return drawStyleSeparator; }
 
     std::vector<std::string> calls;

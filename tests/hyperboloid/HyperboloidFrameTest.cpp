@@ -1,4 +1,4 @@
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LinkedFrames.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
 #include "tests/support/Spheres.h"
@@ -36,7 +36,7 @@ SbColor color(HyperboloidFrame& frame, int index) {
 }
 
 /** Every frame's sphere of the helix stands at the helix's vertex, in the frame's own space. */
-void expectSpheresAtVertex(const OpenedWindow& opened, const HelixFrame& helix, int index) {
+void expectSpheresAtVertex(const LinkedFrames& opened, const HelixFrame& helix, int index) {
     EXPECT_EQ(helix.getIndex(), index);
     for (int space = 0; space < 3; ++space) {
         HyperboloidFrame& frame = opened.hyperboloid(space);
@@ -77,7 +77,7 @@ SbColor shownColor(const HyperboloidFrame& frame, int index) {
 } // namespace
 
 TEST(HyperboloidFrameTest, KnowsItsTypeItsSpaceAndItsBrothers) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     for (int space = 0; space < 3; ++space) {
         HyperboloidFrame& frame = opened.hyperboloid(space);
         EXPECT_EQ(frame.GetType(), "HyperboloidFrame");
@@ -100,7 +100,7 @@ TEST(HyperboloidFrameTest, DirectionsHaveTheirNumbers) {
 }
 
 TEST(HyperboloidFrameTest, SceneHoldsSurfaceDecorationsAndSphereInOrder) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     const std::string sphere = nameOf(opened.firstHelix());
     for (int space = 0; space < 3; ++space) {
         const HyperboloidFrame& frame = opened.hyperboloid(space);
@@ -113,7 +113,7 @@ TEST(HyperboloidFrameTest, SceneHoldsSurfaceDecorationsAndSphereInOrder) {
 }
 
 TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAndAxis) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& frame = opened.hyperboloid(Hyperboloid::USPACE);
     frame.DrawAxis(2, 0.1);
     const std::string sphere = nameOf(opened.firstHelix());
@@ -127,7 +127,7 @@ TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAnd
 }
 
 TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     for (const int space : {Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
         for (int k = 0; k < static_cast<int>(u.getNumVertices()); ++k) {
@@ -204,7 +204,7 @@ TEST(HyperboloidFrameTest, BecomingBrothersBringsTheColoursOfUIntoTheScene) {
 }
 
 TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     const SbColor before = color(u, 100);
     u.setSaturation(0, false);
@@ -219,7 +219,7 @@ TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
 }
 
 TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid");
     ReplacementCounter surfaces(drawStyleBranch(u), "Hyperboloid");
@@ -232,7 +232,7 @@ TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
 }
 
 TEST(HyperboloidFrameTest, SphereHasTheVertexsColourAndPlaceAndTheSharedShape) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
     m.addNewSphere("Helix_test", 321);
     const SoSeparator* sphere = SceneReader::childNamed(phongBranch(m), "Helix_test");
@@ -250,7 +250,7 @@ TEST(HyperboloidFrameTest, SphereHasTheVertexsColourAndPlaceAndTheSharedShape) {
 }
 
 TEST(HyperboloidFrameTest, ChoosingAVertexTiesTheHelixToAllBrothers) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HelixFrame& helix = opened.firstHelix();
     HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
     opened.hyperboloid(Hyperboloid::USPACE).PrevHelixDead();
@@ -264,7 +264,7 @@ TEST(HyperboloidFrameTest, ChoosingAVertexTiesTheHelixToAllBrothers) {
 }
 
 TEST(HyperboloidFrameTest, RefreshedHelixGetsTheUCoordinatesFromEveryFrame) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HelixFrame& helix = opened.firstHelix();
     const HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     for (int space = 0; space < 3; ++space) {
@@ -276,7 +276,7 @@ TEST(HyperboloidFrameTest, RefreshedHelixGetsTheUCoordinatesFromEveryFrame) {
 }
 
 TEST(HyperboloidFrameTest, RowsClampAndStillRefresh) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HelixFrame& helix = opened.firstHelix();
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     const int lastRow = static_cast<int>(u.getNumRow()) - 1;
@@ -297,7 +297,7 @@ TEST(HyperboloidFrameTest, RowsClampAndStillRefresh) {
 }
 
 TEST(HyperboloidFrameTest, ColumnsWrapWithoutEverReachingTheSeam) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HelixFrame& helix = opened.firstHelix();
     HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
     const int rows = static_cast<int>(m.getNumRow());
@@ -318,7 +318,7 @@ TEST(HyperboloidFrameTest, ColumnsWrapWithoutEverReachingTheSeam) {
 }
 
 TEST(HyperboloidFrameTest, StepWithoutATiedHelixChangesNothing) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     u.PrevHelixDead();
     EXPECT_EQ(u.GetPreviousHelix(), nullptr);
@@ -327,7 +327,7 @@ TEST(HyperboloidFrameTest, StepWithoutATiedHelixChangesNothing) {
 }
 
 TEST(HyperboloidFrameTest, AxisGlyphIsAClosedTubeWithATip) {
-    const OpenedWindow opened;
+    const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     u.DrawAxis(2, 0.5);
     const SoSeparator* axis = SceneReader::childNamed(phongBranch(u), "Axis");

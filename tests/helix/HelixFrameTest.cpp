@@ -1,7 +1,11 @@
+#include "helix/HelixFrame.h"
+
 #include "helix/HelixNames.h"
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/RecordingOwner.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
+#include "tests/support/ViewDriver.h"
+#include "tests/support/Waiting.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -324,4 +328,20 @@ TEST(HelixFrameTest, NoTurnsDrawNothingAndTurnsComeBack) {
     EXPECT_TRUE(waitUntil([&] { return !ViewDriver(lone.frame).isDrawn(); }));
     lone.frame.set_nturns(5, true);
     EXPECT_TRUE(waitUntil([&] { return ViewDriver(lone.frame).isDrawn(); }));
+}
+
+TEST(HelixFrameTest, TellsItsOwnerOfEachTitleAndOfItsDeath) {
+    RecordingOwner owner;
+    SbName name;
+    {
+        HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, &owner);
+        frame.initialize();
+        name = frame.getName();
+        EXPECT_EQ(owner.titleChanges, 0);
+        frame.setTitle("Helix Viewer");
+        frame.refresh(0.5F, 1, 0.25F, 42, 0, 1, 0);
+        EXPECT_EQ(owner.titleChanges, 2);
+        EXPECT_TRUE(owner.dead.empty());
+    }
+    EXPECT_EQ(owner.dead, std::vector<SbName>{name});
 }
