@@ -51,7 +51,7 @@ public:
 
     using SoQtGeneralViewerFrame::reDraw;
 
-    /** Samples the chosen tables anew, then draws. */
+    /** Samples the chosen tables anew, and those that wait to be filled, then draws. */
     void reDraw(bool line, bool tube, bool ribbon);
 
     /** Takes over the U coordinates, the index and the colour of another vertex, and draws. */

@@ -10,7 +10,6 @@
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -39,44 +38,6 @@ public:
     }
     static int pointCount(const SoSeparator& part) { return static_cast<int>(points(part).size()); }
 };
-
-/** One setter of the frame, and how the model alone takes the same value. */
-struct Setter {
-    const char* name;
-    std::function<void(HelixFrame&, bool redraw)> set;
-    std::function<void(Helix&)> setModel;
-};
-
-const std::vector<Setter> setters = {
-    {"ribbon range", [](HelixFrame& frame, bool redraw) { frame.set_ribbon_range(0.37, redraw); },
-     [](Helix& helix) {
-         helix.setRibRange(0.37F);
-     }},
-    {"tube radius", [](HelixFrame& frame, bool redraw) { frame.set_tube_radius(0.023, redraw); },
-     [](Helix& helix) {
-         helix.setTubeR(0.023F);
-     }},
-    {"tube precision", [](HelixFrame& frame, bool redraw) { frame.set_precision_tube(11, redraw); },
-     [](Helix& helix) {
-         helix.setPrecisionTube(11);
-     }},
-    {"line precision", [](HelixFrame& frame, bool redraw) { frame.set_precision_line(23, redraw); },
-     [](Helix& helix) {
-         helix.setPrecisionLine(23);
-     }},
-    {"turns", [](HelixFrame& frame, bool redraw) { frame.set_nturns(3.7, redraw); },
-     [](Helix& helix) {
-         helix.setNTurns(3.7F);
-     }}};
-
-/** A helix of the lone frame's point, sampled anew after a setter. */
-Helix freshHelix(const Setter& setter) {
-    Helix helix(1, 0.5F, 0.25F, 1, 0, 0);
-    setter.setModel(helix);
-    helix.init_tables(true, true, true);
-    helix.generatePoints(true, true, true);
-    return helix;
-}
 
 } // namespace
 
@@ -223,49 +184,6 @@ TEST(HelixFrameTest, SettersSampleWhatTheyResize) {
     expected.setPrecisionTube(8);
     expected.setPrecisionLine(20);
     expected.setNTurns(3);
-    expected.init_tables(true, true, true);
-    expected.generatePoints(true, true, true);
-    EXPECT_EQ(lone.frame.getHelix().getLineVertices(), expected.getLineVertices());
-    EXPECT_EQ(lone.frame.getHelix().getTubeVertices(), expected.getTubeVertices());
-    EXPECT_EQ(lone.frame.getHelix().getRibbonVertices(), expected.getRibbonVertices());
-}
-
-TEST(HelixFrameTest, EachSetterAloneLeavesTheTablesOfAFreshHelix) {
-    for (const Setter& setter : setters) {
-        SCOPED_TRACE(setter.name);
-        LoneHelix lone;
-        setter.set(lone.frame, true);
-        const Helix& helix = lone.frame.getHelix();
-        const Helix expected = freshHelix(setter);
-        EXPECT_EQ(helix.getLineVertices(), expected.getLineVertices());
-        EXPECT_EQ(helix.getTubeVertices(), expected.getTubeVertices());
-        EXPECT_EQ(helix.getRibbonVertices(), expected.getRibbonVertices());
-        EXPECT_EQ(helix.getLineColors(), expected.getLineColors());
-        EXPECT_EQ(helix.getTubeColors(), expected.getTubeColors());
-        EXPECT_EQ(helix.getRibbonColors(), expected.getRibbonColors());
-    }
-}
-
-TEST(HelixFrameTest, EachSetterWithoutRedrawGivesTheTablesTheirSizes) {
-    for (const Setter& setter : setters) {
-        SCOPED_TRACE(setter.name);
-        LoneHelix lone;
-        setter.set(lone.frame, false);
-        const Helix& helix = lone.frame.getHelix();
-        const Helix expected = freshHelix(setter);
-        EXPECT_EQ(helix.getLineVertices().size(), expected.getLineVertices().size());
-        EXPECT_EQ(helix.getTubeVertices().size(), expected.getTubeVertices().size());
-        EXPECT_EQ(helix.getRibbonVertices().size(), expected.getRibbonVertices().size());
-    }
-}
-
-TEST(HelixFrameTest, SetterWithRedrawSamplesWhatOneWithoutLeftToItToo) {
-    LoneHelix lone;
-    lone.frame.set_precision_line(23, false);
-    lone.frame.set_tube_radius(0.023, true);
-    Helix expected(1, 0.5F, 0.25F, 1, 0, 0);
-    expected.setPrecisionLine(23);
-    expected.setTubeR(0.023F);
     expected.init_tables(true, true, true);
     expected.generatePoints(true, true, true);
     EXPECT_EQ(lone.frame.getHelix().getLineVertices(), expected.getLineVertices());
