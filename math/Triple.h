@@ -59,6 +59,26 @@ inline FloatTriple narrowed(const Triple& triple) {
             static_cast<float>(triple.z)};
 }
 
+/** Coordinate 0, 1 or 2, unchecked. */
+template <typename Number>
+Number coordinate(const TripleOf<Number>& triple, int index) {
+    if (index == 0) {
+        return triple.x;
+    }
+    return index == 1 ? triple.y : triple.z;
+}
+
+inline FloatTriple toFloatTriple(const float (&values)[3]) {
+    return {values[0], values[1], values[2]};
+}
+
+/** Writes x, y, z into an array. */
+inline void store(const FloatTriple& triple, float (&out)[3]) {
+    out[0] = triple.x;
+    out[1] = triple.y;
+    out[2] = triple.z;
+}
+
 /** A 3x3 matrix on the stack, held as its three rows. */
 struct TripleMatrix {
     Triple row0;
@@ -79,3 +99,8 @@ Vecteur toVecteur(const Triple& triple);
 
 /** The nine entries of a 3x3 matrix, copied to the stack. */
 TripleMatrix toTripleMatrix(Matrice matrix);
+
+/** A table in the form in which the scene library takes it. */
+inline const float (*asArrays(const FloatTriple* table))[3] {
+    return reinterpret_cast<const float(*)[3]>(table);
+}

@@ -1,3 +1,4 @@
+#include "hyperboloid/HyperboloidNames.h"
 #include "hyperboloid/HyperboloidParameters.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
@@ -307,7 +308,8 @@ TEST(ParameterDialogTest, AcceptedValuesReachAllThreeModels) {
         EXPECT_EQ(opened.hyperboloid(space).getNumCol(), 30U);
         EXPECT_EQ(opened.hyperboloid(space).getNumRow(), 20U);
         const SoSeparator* surface = SceneReader::childNamed(
-            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()), "Hyperboloid");
+            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
+            HyperboloidNames::surface);
         EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor.getNum(), 600);
     }
     for (int k = 0; k < 600; ++k) {
@@ -329,7 +331,7 @@ TEST(ParameterDialogTest, OkButtonAndEnterAcceptEachSurfaceDrawnOnce) {
     const OpenedWindow opened;
     ReplacementCounter drawings(
         SceneReader::drawStyleBranch(*opened.hyperboloid(Hyperboloid::MSPACE).getSceneRoot()),
-        "Hyperboloid");
+        HyperboloidNames::surface);
     answerParameters(opened, {[](QWidget& dialog) {
                          click(dialog, "Ok");
                      }});
@@ -347,7 +349,7 @@ TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
     for (int space = 0; space < 3; ++space) {
         drawings.push_back(std::make_unique<ReplacementCounter>(
             SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
-            "Hyperboloid"));
+            HyperboloidNames::surface));
     }
     drawings.push_back(
         std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(), "Helix_Tube"));
