@@ -1,8 +1,10 @@
 #include "hyperboloid/Hyperboloid.h"
 
+#include "hyperboloid/HyperboloidCoefficients.h"
 #include "hyperboloid/HyperboloidDecorations.h"
 #include "hyperboloid/HyperboloidEnergy.h"
 #include "hyperboloid/HyperboloidMesh.h"
+#include "hyperboloid/HyperboloidNames.h"
 #include "hyperboloid/HyperboloidSurface.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
@@ -16,15 +18,13 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <stdexcept>
+#include <string>
 
 namespace {
 
-constexpr int initialPrecision = 64;
-constexpr double initialPointRadius = 0.3;
-
-/** A table of 3 floats per entry as the scene nodes take it. */
-const float (*asTriples(const std::vector<float>& table))[3] {
-    return reinterpret_cast<const float(*)[3]>(table.data());
+std::string toString(const VertexGrid& grid) {
+    return std::to_string(grid.columns) + " x " + std::to_string(grid.rows);
 }
 
 } // namespace
@@ -37,32 +37,36 @@ Hyperboloid::Hyperboloid(float K1, float K2, float K3, float K13, float K23, flo
     , U(3)
     , material(new SoMaterial)
     , sphereGroup(new SoGroup) {
-    set_parameters(K1, K2, K3, K13, K23, U1, U2, U3, initialPrecision, initialPrecision,
-                   initialPointRadius, u3const_range, u3axis_range, u3const_radius, u3axis_radius);
+    setParameters({K1, K2, K3, K13, K23, U1, U2, U3});
     init_tables();
     generateHyperboloidPoints(true, true);
 }
 
 Hyperboloid::~Hyperboloid() = default;
 
-void Hyperboloid::set_parameters(double K1, double K2, double K3, double K13, double K23, double U1,
-                                 double U2, double U3, int columns, int rows, double pointRadius,
-                                 double constRange, double axisRange, double constRadius,
-                                 double axisRadius) {
-    set_k_uHat(K1, K2, K3, K13, K23, U1, U2, U3);
+void Hyperboloid::setParameters(const HyperboloidParameters& p) {
+    set_k_uHat(p.K1, p.K2, p.K3, p.K13, p.K23, p.U1, p.U2, p.U3);
     set_PNAS_var();
-    numCol = static_cast<unsigned int>(std::max(columns, 0));
-    numRow = static_cast<unsigned int>(std::max(rows, 0));
-    SpR = pointRadius;
+    numCol = static_cast<unsigned int>(std::max(p.horizontalPrecision, 0));
+    numRow = static_cast<unsigned int>(std::max(p.verticalPrecision, 0));
+    SpR = p.pointRadius;
     createMySphere(static_cast<float>(SpR));
-    u3const_range = constRange;
-    u3axis_range = axisRange;
-    u3const_radius = constRadius;
-    u3axis_radius = axisRadius;
+    u3const_range = p.u3constRange;
+    u3axis_range = p.u3axisRange;
+    u3const_radius = p.u3constRadius;
+    u3axis_radius = p.u3axisRadius;
     rotationMatrix = get_rotationMatrix(b, d);
     lambda = get_lambda_set_coeff(a, b, c, d);
     shift = get_shift(a, b, c, d);
     semiAxis = HyperboloidCoefficients::semiAxes(lambda);
+}
+
+void Hyperboloid::set_parameters(double K1, double K2, double K3, double K13, double K23, double U1,
+                                 double U2, double U3, int columns, int rows, double pointRadius,
+                                 double constRange, double axisRange, double constRadius,
+                                 double axisRadius) {
+    setParameters({K1, K2, K3, K13, K23, U1, U2, U3, columns, rows, pointRadius, constRange,
+                   axisRange, constRadius, axisRadius});
 }
 
 void Hyperboloid::set_k_uHat(double K1, double K2, double K3, double K13, double K23, double U1,
@@ -113,26 +117,26 @@ void Hyperboloid::createMySphere(float radius) {
 }
 
 void Hyperboloid::init_tables() {
-    const std::size_t vertexCount = static_cast<std::size_t>(numCol) * numRow;
-    vertices.assign(3 * vertexCount, 0.0F);
-    colors.assign(3 * vertexCount, 0.0F);
+    tablesGrid = grid();
+    const std::size_t vertexCount = tablesGrid.vertexCount();
+    vertices.assign(vertexCount, FloatTriple{});
+    colors.assign(vertexCount, FloatTriple{});
     energies.assign(vertexCount, 0.0F);
 }
 
 void Hyperboloid::generateHyperboloidPoints(bool points, bool colours) {
+    requireTablesOfGrid();
     if (points) {
-        HyperboloidSurface::generate({numCol, numRow, tRange, semiAxis, swapAxes, space, spaces()},
+        HyperboloidSurface::generate({grid(), tRange, semiAxis, swapAxes, space, spaces()},
                                      vertices);
         if (space == USPACE) {
-            HyperboloidEnergy::computeEnergies(vertices.data(), verticesInTables(),
-                                               toTripleMatrix(KMatrix), toTriple(U),
-                                               energies.data());
+            HyperboloidEnergy::computeEnergies(vertices, toTripleMatrix(KMatrix), toTriple(U),
+                                               energies);
             normalize_energy();
         }
     }
     if (colours && space == USPACE) {
-        HyperboloidEnergy::Palette(saturation, lightness)
-            .colorsOf(energies.data(), verticesInTables(), colors.data());
+        HyperboloidEnergy::Palette(saturation, lightness).colorsOf(energies, colors);
     }
 }
 
@@ -144,15 +148,16 @@ void Hyperboloid::computePositionForParams(float t, float theta, float (&p)[3]) 
 }
 
 double Hyperboloid::compute_energy(const float (&u)[3]) {
-    return HyperboloidEnergy::energyAt(u, toTripleMatrix(KMatrix), toTriple(U));
+    return HyperboloidEnergy::energyAt(toFloatTriple(u), toTripleMatrix(KMatrix), toTriple(U));
 }
 
 void Hyperboloid::normalize_energy() {
-    HyperboloidEnergy::normalize(energies.data(), verticesInTables());
+    requireTablesOfGrid();
+    HyperboloidEnergy::normalize(energies);
 }
 
 void Hyperboloid::computeColorForPoint(float e, float (&rgb)[3]) {
-    HyperboloidEnergy::Palette(saturation, lightness).colorOf(e, rgb);
+    store(HyperboloidEnergy::Palette(saturation, lightness).colorOf(e), rgb);
 }
 
 void Hyperboloid::computeColorForPoint(const float (&p)[3], float (&rgb)[3]) {
@@ -160,21 +165,21 @@ void Hyperboloid::computeColorForPoint(const float (&p)[3], float (&rgb)[3]) {
 }
 
 SoSeparator* Hyperboloid::DrawHyperboloid() {
-    const auto columns = static_cast<int>(columnsInTables());
-    const auto vertexCount = static_cast<int>(verticesInTables());
-    SceneNodes::setColors(*material, vertexCount, asTriples(colors));
+    requireTablesOfGrid();
+    const auto vertexCount = static_cast<int>(vertices.size());
+    SceneNodes::setColors(*material, vertexCount, asArrays(colors.data()));
     // Per vertex, so that the material index of a picked point is its vertex index.
     auto* binding = new SoMaterialBinding;
     binding->value = SoMaterialBinding::PER_VERTEX;
-    auto* mesh = new HyperboloidMesh(static_cast<int>(numRow), columns);
-    mesh->setName("HyperboloidMesh");
+    auto* mesh = new HyperboloidMesh(grid());
+    mesh->setName(HyperboloidNames::mesh);
 
-    SoSeparator* surface = SceneNodes::createSeparator("Hyperboloid");
+    SoSeparator* surface = SceneNodes::createSeparator(HyperboloidNames::surface);
     // Large surfaces are never cached by themselves, and drawn from a cache they cost a fifth less.
     surface->renderCaching = SoSeparator::ON;
     surface->addChild(material.get());
     surface->addChild(binding);
-    surface->addChild(SceneNodes::createCoordinates(vertexCount, asTriples(vertices)));
+    surface->addChild(SceneNodes::createCoordinates(vertexCount, asArrays(vertices.data())));
     surface->addChild(mesh);
     return surface;
 }
@@ -238,8 +243,20 @@ double Hyperboloid::getPrec(int i) const {
     }
 }
 
-std::size_t Hyperboloid::columnsInTables() const {
-    return HyperboloidSurface::columnsThatFit(numCol, numRow, energies.size());
+SurfaceVertex Hyperboloid::surfaceVertex(int k) const {
+    const auto index = static_cast<std::size_t>(k);
+    return {k, vertices[index], colors[index]};
+}
+
+VertexGrid Hyperboloid::grid() const {
+    return {static_cast<int>(numCol), static_cast<int>(numRow)};
+}
+
+void Hyperboloid::requireTablesOfGrid() const {
+    if (tablesGrid != grid()) {
+        throw std::logic_error("The tables hold " + toString(tablesGrid) + " vertices, the grid " +
+                               toString(grid()) + ": init_tables() is missing.");
+    }
 }
 
 HyperboloidSpaces Hyperboloid::spaces() const {

@@ -1,10 +1,13 @@
 #pragma once
 
-#include "hyperboloid/HyperboloidCoefficients.h"
+#include "hyperboloid/HyperboloidParameters.h"
 #include "hyperboloid/HyperboloidSpaces.h"
+#include "hyperboloid/VertexGrid.h"
 #include "math/Matrice.h"
+#include "math/Triple.h"
 #include "math/Vecteur.h"
 #include "scene/SceneNodes.h"
+#include "scene/SurfaceVertex.h"
 
 #include <array>
 #include <cstddef>
@@ -18,12 +21,12 @@ class SoSeparator;
  * A quadric surface in one of three spaces, with its energy colours and its decorations.
  *
  * The surface follows from the entries of a symmetric matrix K and a point uHat of U space. It is a
- * grid of numCol columns by numRow rows; vertex k = column * numRow + row names the same parameter
- * point in all three spaces (see HyperboloidSpaces for the maps between them).
+ * grid of numCol columns by numRow rows, numbered as in VertexGrid; a vertex index names the same
+ * parameter point in all three spaces (see HyperboloidSpaces for the maps between them).
  *
- * After a change of the parameters the order is: set_parameters, init_tables,
- * generateHyperboloidPoints, DrawHyperboloid. Without init_tables the tables keep their size, and
- * only the whole columns that fit into them are generated and drawn.
+ * After a change of the parameters the order is: set_parameters or setParameters, init_tables,
+ * generateHyperboloidPoints, DrawHyperboloid. The last two and normalize_energy throw
+ * std::logic_error when the grid has changed and init_tables was left out.
  *
  * Degenerate parameters are reported on the standard error stream and replaced by fallback values;
  * K1 = K2 and negative lambdas are not reported and give NaN or infinite coordinates.
@@ -39,7 +42,10 @@ public:
     /** Coordinates m = K (u - uHat). */
     static constexpr int MSPACE = HyperboloidSpaces::M;
 
-    /** A surface of 64 x 64 vertices, generated and, in U space, coloured. */
+    /**
+     * A surface with this K and uHat and the start values for all else, generated and, in U space,
+     * coloured.
+     */
     Hyperboloid(float K1, float K2, float K3, float K13, float K23, float U1, float U2, float U3,
                 int spaceIndex);
     Hyperboloid(const Hyperboloid&) = delete;
@@ -50,6 +56,8 @@ public:
      * Takes the parameters and derives all numbers from them; neither the tables' size nor the
      * surface changes. A negative number of columns or rows counts as 0.
      */
+    void setParameters(const HyperboloidParameters& parameters);
+    /** setParameters() with the fifteen values in the order of the set's members. */
     void set_parameters(double K1, double K2, double K3, double K13, double K23, double U1,
                         double U2, double U3, int columns, int rows, double pointRadius,
                         double constRange, double axisRange, double constRadius, double axisRadius);
@@ -130,12 +138,20 @@ public:
     [[nodiscard]] double getLightness() const { return lightness; }
     [[nodiscard]] double getTransparency() const { return transparency; }
     /** Coordinate 0 to 2 of vertex k; neither is checked. */
-    [[nodiscard]] float getVertex(int k, int comp) const { return vertices[tableIndex(k, comp)]; }
+    [[nodiscard]] float getVertex(int k, int comp) const {
+        return coordinate(vertices[static_cast<std::size_t>(k)], comp);
+    }
     /** Red, green or blue (0 to 2) of vertex k; neither is checked. */
-    [[nodiscard]] float getColor(int k, int comp) const { return colors[tableIndex(k, comp)]; }
+    [[nodiscard]] float getColor(int k, int comp) const {
+        return coordinate(colors[static_cast<std::size_t>(k)], comp);
+    }
+    /** Vertex k with its coordinates, which are meant to be those of U space, and its colour. */
+    [[nodiscard]] SurfaceVertex surfaceVertex(int k) const;
     [[nodiscard]] unsigned int getNumCol() const { return numCol; }
     [[nodiscard]] unsigned int getNumRow() const { return numRow; }
     [[nodiscard]] unsigned int getNumVertices() const { return numCol * numRow; }
+    /** The grid that the parameters ask for: numCol x numRow. */
+    [[nodiscard]] VertexGrid grid() const;
 
 protected:
     float a = 0.0F;
@@ -149,12 +165,13 @@ protected:
     int space;
     /** K1, K2, K3, K13, K23; the derived numbers come from these floats, the maps from KMatrix. */
     std::array<float, 5> K{};
-    /** 3 floats per vertex. */
-    std::vector<float> vertices;
+    std::vector<FloatTriple> vertices;
     /** Red, green, blue in 0 to 1 per vertex; computed in U space, copied from there by others. */
-    std::vector<float> colors;
+    std::vector<FloatTriple> colors;
     /** 1 float in 0 to 1 per vertex; filled in U space only. */
     std::vector<float> energies;
+    /** The grid that the tables were made for. */
+    VertexGrid tablesGrid{0, 0};
     unsigned int numCol = 0;
     unsigned int numRow = 0;
     /** 0 to 1 */
@@ -164,10 +181,10 @@ protected:
     /** 0 to 1; it reaches the surface through `material`, never through `colors`. */
     double transparency = 0.0;
     double SpR = 0.0;
-    double u3const_range = 7.0;
-    double u3axis_range = 7.0;
-    double u3const_radius = 0.02;
-    double u3axis_radius = 0.03;
+    double u3const_range = 0.0;
+    double u3axis_range = 0.0;
+    double u3const_radius = 0.0;
+    double u3axis_radius = 0.0;
     Matrice rotationMatrix;
     Matrice KMatrix;
     Vecteur lambda;
@@ -182,11 +199,7 @@ protected:
     NodePointer<SoGroup> sphereGroup;
 
 private:
-    static std::size_t tableIndex(int k, int comp) {
-        return std::size_t{3} * static_cast<std::size_t>(k) + static_cast<std::size_t>(comp);
-    }
-    /** The columns of the grid that the tables hold: all, unless init_tables was left out. */
-    [[nodiscard]] std::size_t columnsInTables() const;
-    [[nodiscard]] std::size_t verticesInTables() const { return columnsInTables() * numRow; }
+    /** Throws std::logic_error unless the tables were made for the grid. */
+    void requireTablesOfGrid() const;
     [[nodiscard]] HyperboloidSpaces spaces() const;
 };

@@ -1,7 +1,10 @@
 #include "hyperboloid/HyperboloidDecorations.h"
 
+#include "hyperboloid/HyperboloidNames.h"
+#include "hyperboloid/Ring.h"
 #include "scene/SceneNodes.h"
 
+#include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoGroup.h>
 #include <Inventor/nodes/SoIndexedFaceSet.h>
@@ -13,43 +16,59 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 namespace {
 
-constexpr int ringPoints = 30;
 constexpr int tubeRings = 2;
-constexpr double fullTurn = 6.283185307179586;
 
 constexpr int coneApex = 0;
-constexpr int coneBaseCenter = ringPoints + 1;
-constexpr int conePoints = ringPoints + 2;
-constexpr float coneStartAngle = 0.21666156F;
-/** fullTurn / 29; the rim ends a step beyond the full turn, on its first point, on purpose. */
-constexpr double coneAngleStep = 0.21666156231653746;
+constexpr int coneBaseCenter = Ring::pointCount + 1;
+constexpr int conePoints = Ring::pointCount + 2;
 
 constexpr int indicesPerFace = 4;
 
 constexpr float arrowRadius = 0.08F;
 constexpr float arrowHeight = 0.14F;
 
-void storePoint(const Triple& source, float (&point)[3]) {
-    point[0] = static_cast<float>(source.x);
-    point[1] = static_cast<float>(source.y);
-    point[2] = static_cast<float>(source.z);
+constexpr float glyphTipScale = 0.15F;
+/** A third of pi, about the first axis. */
+constexpr float glyphTipTurn = 1.0471976F;
+
+SoCoordinate3* createCoordinates(const std::vector<FloatTriple>& points) {
+    return SceneNodes::createCoordinates(static_cast<int>(points.size()), asArrays(points.data()));
 }
 
-/** A point of the ring around a centre: centre + x nA + y nB, narrowed once. */
-void storeRingPoint(const Triple& center, double x, const Triple& nA, double y, const Triple& nB,
-                    float (&point)[3]) {
-    storePoint(center + x * nA + y * nB, point);
+/** The wall between two rings of points. */
+SoQuadMesh* createTubeWall() {
+    return SceneNodes::createQuadMesh(Ring::pointCount, tubeRings);
 }
+
+/** The two directions that span the plane of a ring. */
+struct RingPlane {
+    Triple first;
+    Triple second;
+
+    /** The plane perpendicular to a vector. */
+    static RingPlane perpendicularTo(const Vecteur& v) {
+        Vecteur nA(3);
+        Vecteur nB(3);
+        HyperboloidDecorations::findNormals(v, nA, nB);
+        return {toTriple(nA), toTriple(nB)};
+    }
+
+    /** center + x first + y second, narrowed once. */
+    [[nodiscard]] FloatTriple point(const Triple& center, double x, double y) const {
+        return narrowed(center + x * first + y * second);
+    }
+};
 
 /** Triangles that join one point to every pair of neighbours on the cone's rim, and close it. */
 SoIndexedFaceSet* createConeFan(int32_t hub) {
     auto* fan = new SoIndexedFaceSet;
-    fan->coordIndex.setNum(indicesPerFace * ringPoints);
-    for (int32_t k = 0; k < ringPoints; ++k) {
-        const int32_t next = k + 1 < ringPoints ? k + 2 : 1;
+    fan->coordIndex.setNum(indicesPerFace * Ring::pointCount);
+    for (int32_t k = 0; k < Ring::pointCount; ++k) {
+        const int32_t next = k + 1 < Ring::pointCount ? k + 2 : 1;
         const std::array<int32_t, indicesPerFace> face{hub, k + 1, next, SO_END_FACE_INDEX};
         fan->coordIndex.setValues(indicesPerFace * k, indicesPerFace, face.data());
     }
@@ -59,9 +78,9 @@ SoIndexedFaceSet* createConeFan(int32_t hub) {
 /** A named marker: translated, in a diffuse colour, and shown by the shared marker group. */
 SoSeparator* createMarker(const char* name, const Triple& position, const SbColor& color,
                           SoGroup* marker) {
+    const FloatTriple translation = narrowed(position);
     auto* transform = new SoTransform;
-    transform->translation.setValue(static_cast<float>(position.x), static_cast<float>(position.y),
-                                    static_cast<float>(position.z));
+    transform->translation.setValue(translation.x, translation.y, translation.z);
     auto* material = new SoMaterial;
     material->diffuseColor.setValue(color);
     SoSeparator* separator = SceneNodes::createSeparator(name);
@@ -87,56 +106,48 @@ void HyperboloidDecorations::findNormals(Vecteur v, Vecteur& nA, Vecteur& nB) {
 
 SoSeparator* HyperboloidDecorations::createTubeLine(Vecteur A, Vecteur B, float radius, bool blue) {
     const Vecteur direction = B - A;
-    Vecteur nA(3);
-    Vecteur nB(3);
-    findNormals(direction, nA, nB);
+    const RingPlane plane = RingPlane::perpendicularTo(direction);
     const Triple start = toTriple(A);
     const Triple along = toTriple(direction);
-    const Triple firstNormal = toTriple(nA);
-    const Triple secondNormal = toTriple(nB);
 
-    float points[tubeRings * ringPoints][3];
+    std::vector<FloatTriple> points;
+    points.reserve(tubeRings * Ring::pointCount);
     for (int i = 0; i < tubeRings; ++i) {
         const Triple center = start + i * along;
-        for (int k = 0; k < ringPoints; ++k) {
-            // 29 steps for 30 points: the last point repeats the first, and the ring closes.
-            const double phi = k * fullTurn / (ringPoints - 1);
-            storeRingPoint(center, radius * std::cos(phi), firstNormal, radius * std::sin(phi),
-                           secondNormal, points[i * ringPoints + k]);
+        for (const auto& [cosine, sine] : Ring::directions()) {
+            points.push_back(plane.point(center, radius * cosine, radius * sine));
         }
     }
 
-    SoSeparator* tube = SceneNodes::createSeparator("Axis");
+    SoSeparator* tube = SceneNodes::createSeparator(HyperboloidNames::axis);
     tube->addChild(blue ? SceneNodes::createMaterial(0.0F, 0.0F, 1.0F)
                         : SceneNodes::createMaterial(1.0F, 0.0F, 0.0F));
-    tube->addChild(SceneNodes::createCoordinates(tubeRings * ringPoints, points));
-    tube->addChild(SceneNodes::createQuadMesh(ringPoints, tubeRings));
+    tube->addChild(createCoordinates(points));
+    tube->addChild(createTubeWall());
     return tube;
 }
 
 SoSeparator* HyperboloidDecorations::createCone(Vecteur A, Vecteur B, float radius, float height) {
     Vecteur direction = B - A;
     direction.Normalisation();
-    Vecteur nA(3);
-    Vecteur nB(3);
-    findNormals(direction, nA, nB);
+    const RingPlane plane = RingPlane::perpendicularTo(direction);
     const Triple baseCenter = toTriple(A);
-    const Triple firstNormal = toTriple(nA);
-    const Triple secondNormal = toTriple(nB);
 
-    float points[conePoints][3];
-    storePoint(baseCenter - height * toTriple(direction), points[coneApex]);
-    float phi = coneStartAngle;
-    for (int k = 1; k <= ringPoints; ++k) {
-        storeRingPoint(baseCenter, radius * std::sin(phi), firstNormal, radius * std::cos(phi),
-                       secondNormal, points[k]);
-        phi = static_cast<float>(phi + coneAngleStep);
+    std::vector<FloatTriple> points;
+    points.reserve(conePoints);
+    points.push_back(narrowed(baseCenter - height * toTriple(direction)));
+    // The rim begins one step from 0 and so ends one beyond the full turn, on its first point; its
+    // angles are summed in float. Both are on purpose.
+    auto phi = static_cast<float>(Ring::step);
+    for (int k = 0; k < Ring::pointCount; ++k) {
+        points.push_back(plane.point(baseCenter, radius * std::sin(phi), radius * std::cos(phi)));
+        phi = static_cast<float>(phi + Ring::step);
     }
-    storePoint(baseCenter, points[coneBaseCenter]);
+    points.push_back(narrowed(baseCenter));
 
-    SoSeparator* cone = SceneNodes::createSeparator("Cone");
+    SoSeparator* cone = SceneNodes::createSeparator(HyperboloidNames::cone);
     cone->addChild(SceneNodes::createMaterial(0.0F, 0.0F, 1.0F));
-    cone->addChild(SceneNodes::createCoordinates(conePoints, points));
+    cone->addChild(createCoordinates(points));
     cone->addChild(createConeFan(coneApex));
     cone->addChild(createConeFan(coneBaseCenter));
     return cone;
@@ -146,7 +157,7 @@ SoSeparator* HyperboloidDecorations::createU3Axis(const HyperboloidSpaces& space
                                                   float range, float radius) {
     const Vecteur P1 = toVecteur(spaces.fromU({0.0, 0.0, -range}, space));
     const Vecteur P2 = toVecteur(spaces.fromU({0.0, 0.0, range}, space));
-    SoSeparator* axis = SceneNodes::createSeparator("U3Axis");
+    SoSeparator* axis = SceneNodes::createSeparator(HyperboloidNames::u3Axis);
     axis->addChild(createTubeLine(P1, P2, radius, true));
     axis->addChild(createCone(P1, P2, arrowRadius, arrowHeight));
     return axis;
@@ -166,7 +177,7 @@ SoSeparator* HyperboloidDecorations::createU3ConstAxis(const HyperboloidSpaces& 
         {{lowerOffset, -range, lowerHeight}, {lowerOffset, range, lowerHeight}},
         {{-range, 0.0, lowerHeight}, {range, 0.0, lowerHeight}},
     };
-    SoSeparator* axes = SceneNodes::createSeparator("U3ConstAxis");
+    SoSeparator* axes = SceneNodes::createSeparator(HyperboloidNames::u3ConstAxis);
     for (const auto& [P1, P2] : lines) {
         axes->addChild(createTubeLine(toVecteur(spaces.fromU(P1, space)),
                                       toVecteur(spaces.fromU(P2, space)), radius, false));
@@ -176,11 +187,34 @@ SoSeparator* HyperboloidDecorations::createU3ConstAxis(const HyperboloidSpaces& 
 
 SoSeparator* HyperboloidDecorations::createUHat(const HyperboloidSpaces& spaces, int space,
                                                 SoGroup* marker) {
-    return createMarker("uHat", spaces.distinguishedPoint(space), SbColor(1.0F, 1.0F, 0.0F),
-                        marker);
+    return createMarker(HyperboloidNames::uHat, spaces.distinguishedPoint(space),
+                        SbColor(1.0F, 1.0F, 0.0F), marker);
 }
 
 SoSeparator* HyperboloidDecorations::createCenter(const HyperboloidSpaces& spaces, int space,
                                                   SoGroup* marker) {
-    return createMarker("Center", spaces.center(space), SbColor(1.0F, 0.0F, 0.0F), marker);
+    return createMarker(HyperboloidNames::center, spaces.center(space), SbColor(1.0F, 0.0F, 0.0F),
+                        marker);
+}
+
+SoSeparator* HyperboloidDecorations::createAxisGlyph(double halfLength, double radius) {
+    std::vector<FloatTriple> points;
+    points.reserve(tubeRings * Ring::pointCount);
+    for (const double end : {halfLength, -halfLength}) {
+        for (const auto& [cosine, sine] : Ring::directions()) {
+            points.push_back(narrowed({radius * cosine, radius * sine, end}));
+        }
+    }
+    auto* tip = new SoTransform;
+    tip->translation.setValue(0.0F, 0.0F, static_cast<float>(halfLength));
+    tip->scaleFactor.setValue(glyphTipScale, glyphTipScale, glyphTipScale);
+    tip->rotation.setValue(SbVec3f(1.0F, 0.0F, 0.0F), glyphTipTurn);
+
+    SoSeparator* axis = SceneNodes::createSeparator(HyperboloidNames::axis);
+    axis->addChild(SceneNodes::createMaterial(0.0F, 0.0F, 1.0F));
+    axis->addChild(createCoordinates(points));
+    axis->addChild(createTubeWall());
+    axis->addChild(tip);
+    axis->addChild(new SoCone);
+    return axis;
 }

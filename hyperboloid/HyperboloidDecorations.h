@@ -8,7 +8,8 @@ class SoGroup;
 class SoSeparator;
 
 /**
- * What is drawn beside the surface: the U3 axis, the rulings of constant u3, uHat and the centre.
+ * What is drawn beside the surface: the U3 axis, the rulings of constant u3, uHat, the centre and
+ * an axis glyph.
  *
  * Each maker returns a new, unreferenced separator; nothing is kept. Lines are defined in U space
  * and carried into the space in which they are drawn.
@@ -52,5 +53,11 @@ SoSeparator* createUHat(const HyperboloidSpaces& spaces, int space, SoGroup* mar
 
 /** The given marker in red at the centre of the quadric; named "Center". */
 SoSeparator* createCenter(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
+
+/**
+ * A blue tube of two rings of 30 points along the third coordinate, from halfLength to -halfLength,
+ * with a small cone at halfLength; named "Axis".
+ */
+SoSeparator* createAxisGlyph(double halfLength, double radius);
 
 } // namespace HyperboloidDecorations

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr std::size_t floatsPerVertex = 3;
 constexpr double blueHueDegrees = 240.0;
 constexpr double fullCircleDegrees = 360.0;
 constexpr double oneThird = 1.0 / 3.0;
@@ -31,49 +30,34 @@ double wrapHue(double hue) {
     return hue < 0.0 ? hue + 1.0 : hue;
 }
 
-/** The value of a channel at its hue in 0 to 1: it rises, stays highest, falls and stays lowest. */
-double channel(double hue, double lowest, double slope, double highest) {
-    if (6.0 * hue < 1.0) {
-        return lowest + slope * hue;
-    }
-    if (2.0 * hue < 1.0) {
-        return highest;
-    }
-    if (3.0 * hue < 2.0) {
-        return lowest + (highest - lowest) * (twoThirds - hue) * 6.0;
-    }
-    return lowest; // also for a NaN hue
-}
-
 } // namespace
 
-double HyperboloidEnergy::energyAt(const float (&u)[3], const TripleMatrix& K, const Triple& uHat) {
-    const Triple w = Triple{u[0], u[1], u[2]} - uHat;
+double HyperboloidEnergy::energyAt(const FloatTriple& u, const TripleMatrix& K,
+                                   const Triple& uHat) {
+    const Triple w = widened(u) - uHat;
     return dot(K * w, w);
 }
 
-void HyperboloidEnergy::computeEnergies(const float* points, std::size_t count,
+void HyperboloidEnergy::computeEnergies(const std::vector<FloatTriple>& points,
                                         const TripleMatrix& K, const Triple& uHat,
-                                        float* energies) {
-    for (std::size_t k = 0; k < count; ++k) {
-        const float* point = points + floatsPerVertex * k;
-        energies[k] = static_cast<float>(energyAt({point[0], point[1], point[2]}, K, uHat));
-    }
+                                        std::vector<float>& energies) {
+    std::transform(points.begin(), points.end(), energies.begin(),
+                   [&](const FloatTriple& u) { return static_cast<float>(energyAt(u, K, uHat)); });
 }
 
-void HyperboloidEnergy::normalize(float* energies, std::size_t count) {
-    if (count == 0) {
+void HyperboloidEnergy::normalize(std::vector<float>& energies) {
+    if (energies.empty()) {
         return;
     }
-    float lowest = energies[0];
-    float highest = energies[0];
-    for (std::size_t k = 0; k < count; ++k) {
+    float lowest = energies.front();
+    float highest = energies.front();
+    for (const float energy : energies) {
         // Written so that a NaN never replaces a bound, and a NaN bound is never replaced.
-        lowest = lowest > energies[k] ? energies[k] : lowest;
-        highest = energies[k] > highest ? energies[k] : highest;
+        lowest = lowest > energy ? energy : lowest;
+        highest = energy > highest ? energy : highest;
     }
-    for (std::size_t k = 0; k < count; ++k) {
-        energies[k] = (energies[k] - lowest) / (highest - lowest);
+    for (float& energy : energies) {
+        energy = (energy - lowest) / (highest - lowest);
     }
 }
 
@@ -82,27 +66,37 @@ void HyperboloidEnergy::colorOfPosition(const float (&p)[3], float (&rgb)[3]) {
 }
 
 HyperboloidEnergy::Palette::Palette(double saturation, double lightnessValue)
-    : grey(saturation == 0.0)
+    : isGrey(saturation == 0.0)
     , lightness(lightnessValue)
     , highest(highestChannel(saturation, lightness))
-    , lowest(2.0 * lightness - highest) {}
+    , lowest(2.0 * lightness - highest)
+    , slope((highest - lowest) * 6.0) {}
 
-void HyperboloidEnergy::Palette::colorOf(float energy, float (&rgb)[3]) const {
-    colorsOf(&energy, 1, rgb);
+FloatTriple HyperboloidEnergy::Palette::colorOf(float energy) const {
+    if (isGrey) {
+        const auto grey = static_cast<float>(lightness);
+        return {grey, grey, grey};
+    }
+    const double hue = (1.0 - energy) * blueHueDegrees / fullCircleDegrees;
+    return narrowed({channelAt(hue + oneThird), channelAt(hue), channelAt(hue - oneThird)});
 }
 
-void HyperboloidEnergy::Palette::colorsOf(const float* energies, std::size_t count,
-                                          float* colors) const {
-    if (grey) {
-        std::fill_n(colors, floatsPerVertex * count, static_cast<float>(lightness));
-        return;
+void HyperboloidEnergy::Palette::colorsOf(const std::vector<float>& energies,
+                                          std::vector<FloatTriple>& colors) const {
+    std::transform(energies.begin(), energies.end(), colors.begin(),
+                   [this](float energy) { return colorOf(energy); });
+}
+
+double HyperboloidEnergy::Palette::channelAt(double hue) const {
+    const double wrapped = wrapHue(hue);
+    if (6.0 * wrapped < 1.0) {
+        return lowest + slope * wrapped;
     }
-    const double slope = (highest - lowest) * 6.0;
-    for (std::size_t k = 0; k < count; ++k) {
-        const double hue = (1.0 - energies[k]) * blueHueDegrees / fullCircleDegrees;
-        float* rgb = colors + floatsPerVertex * k;
-        rgb[0] = static_cast<float>(channel(wrapHue(hue + oneThird), lowest, slope, highest));
-        rgb[1] = static_cast<float>(channel(wrapHue(hue), lowest, slope, highest));
-        rgb[2] = static_cast<float>(channel(wrapHue(hue - oneThird), lowest, slope, highest));
+    if (2.0 * wrapped < 1.0) {
+        return highest;
     }
+    if (3.0 * wrapped < 2.0) {
+        return lowest + (highest - lowest) * (twoThirds - wrapped) * 6.0;
+    }
+    return lowest; // also for a NaN hue
 }

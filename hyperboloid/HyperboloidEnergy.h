@@ -2,29 +2,28 @@
 
 #include "math/Triple.h"
 
-#include <cstddef>
+#include <vector>
 
 /**
- * The energies of the vertices and the colours they give.
+ * The energies of the vertices and the colours they give: red, green, blue in 0 to 1.
  *
- * Tables are plain float arrays: 3 floats per vertex for positions and colours (red, green, blue in
- * 0 to 1), 1 float per vertex for energies.
+ * Tables have one entry per vertex; a result is written into a table of the size of the given one.
  */
 namespace HyperboloidEnergy {
 
 /** E = (K w) . w with w = u - uHat, the quadratic form of K at a point of U space. */
-double energyAt(const float (&u)[3], const TripleMatrix& K, const Triple& uHat);
+double energyAt(const FloatTriple& u, const TripleMatrix& K, const Triple& uHat);
 
-/** Writes the energies of the first `count` points of a table of U space. */
-void computeEnergies(const float* points, std::size_t count, const TripleMatrix& K,
-                     const Triple& uHat, float* energies);
+/** Writes the energies of points of U space. */
+void computeEnergies(const std::vector<FloatTriple>& points, const TripleMatrix& K,
+                     const Triple& uHat, std::vector<float>& energies);
 
 /**
  * Maps the energies linearly onto 0 (lowest) to 1 (highest): e = (e - min) / (max - min).
  *
  * Equal energies, and energies that begin with NaN, all become NaN.
  */
-void normalize(float* energies, std::size_t count);
+void normalize(std::vector<float>& energies);
 
 /** The colour of a position: a second rule beside the energies' colours. */
 void colorOfPosition(const float (&p)[3], float (&rgb)[3]);
@@ -41,17 +40,22 @@ public:
 
     /** The colour of a normalised energy; NaN gives the model's darkest channel value in all three
      * channels. */
-    void colorOf(float energy, float (&rgb)[3]) const;
-    /** Writes the colours of the first `count` energies. */
-    void colorsOf(const float* energies, std::size_t count, float* colors) const;
+    [[nodiscard]] FloatTriple colorOf(float energy) const;
+    /** Writes the colours of normalised energies. */
+    void colorsOf(const std::vector<float>& energies, std::vector<FloatTriple>& colors) const;
 
 private:
-    bool grey;
+    /** The value of a channel at its hue: it rises, stays highest, falls and stays lowest. */
+    [[nodiscard]] double channelAt(double hue) const;
+
+    bool isGrey;
     double lightness;
     /** q, the highest value of a channel. */
     double highest;
     /** p, the lowest value of a channel. */
     double lowest;
+    /** By how much a rising channel rises per hue. */
+    double slope;
 };
 
 } // namespace HyperboloidEnergy

@@ -1,21 +1,18 @@
 #include "hyperboloid/HyperboloidFrame.h"
 
 #include "helix/HelixFrame.h"
+#include "hyperboloid/HyperboloidDecorations.h"
+#include "hyperboloid/HyperboloidNames.h"
 #include "viewer/SoQtGeneralViewer.h"
 
 #include <Inventor/SoPickedPoint.h>
 #include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/events/SoMouseButtonEvent.h>
-#include <Inventor/nodes/SoCone.h>
-#include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoMaterial.h>
-#include <Inventor/nodes/SoQuadMesh.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoTransform.h>
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 
 namespace {
@@ -46,33 +43,14 @@ std::optional<int> directionOfKey(SoKeyboardEvent::Key key) {
     }
 }
 
-constexpr int pointsPerRing = 30;
-constexpr int ringCount = 2;
-
-/** The wall of the axis glyph: a ring at +halfLength, then one at -halfLength; each ring closes. */
-SoCoordinate3* createAxisRings(double halfLength, double radius) {
-    constexpr double fullTurn = 6.283185307179586;
-    float points[ringCount * pointsPerRing][3];
-    for (int ring = 0; ring < ringCount; ++ring) {
-        for (int j = 0; j < pointsPerRing; ++j) {
-            const double theta = j * fullTurn / (pointsPerRing - 1);
-            float* point = points[ring * pointsPerRing + j];
-            point[0] = static_cast<float>(radius * std::cos(theta));
-            point[1] = static_cast<float>(radius * std::sin(theta));
-            point[2] = static_cast<float>(ring == 0 ? halfLength : -halfLength);
-        }
-    }
-    return SceneNodes::createCoordinates(ringCount * pointsPerRing, points);
-}
-
 } // namespace
 
 void toggleDrawStyle() {}
 
-const int HyperboloidFrame::UP = 0;
-const int HyperboloidFrame::DOWN = 1;
-const int HyperboloidFrame::RIGHT = 2;
-const int HyperboloidFrame::LEFT = 3;
+const int HyperboloidFrame::UP = VertexGrid::up;
+const int HyperboloidFrame::DOWN = VertexGrid::down;
+const int HyperboloidFrame::RIGHT = VertexGrid::right;
+const int HyperboloidFrame::LEFT = VertexGrid::left;
 
 HyperboloidFrame::HyperboloidFrame(float K1, float K2, float K3, float K13, float K23, float U1,
                                    float U2, float U3, int whichSpace, bool closable,
@@ -103,23 +81,25 @@ HyperboloidFrame* HyperboloidFrame::getBrother(int whichSpace) const {
 }
 
 void HyperboloidFrame::SetPreviousHelix(HelixFrame* helix) {
-    previousHelix = helix;
+    tiedHelix = helix;
 }
 
 HelixFrame* HyperboloidFrame::GetPreviousHelix() const {
-    return previousHelix;
+    return tiedHelix;
 }
 
 void HyperboloidFrame::PrevHelixDead() {
-    previousHelix = nullptr;
+    tiedHelix = nullptr;
 }
 
 void HyperboloidFrame::changeColors() {
     if (space == USPACE || uBrother == nullptr) {
         return;
     }
-    const std::size_t count = std::min(colors.size(), uBrother->colors.size());
-    std::copy_n(uBrother->colors.begin(), count, colors.begin());
+    // A change of the grid begins with U; on different grids an index names different places.
+    if (uBrother->tablesGrid == tablesGrid) {
+        colors = uBrother->colors;
+    }
 }
 
 void HyperboloidFrame::reDraw(bool reinit, bool regenerate) {
@@ -130,8 +110,8 @@ void HyperboloidFrame::reDraw(bool reinit, bool regenerate) {
         generateHyperboloidPoints(reinit, regenerate);
     }
     changeColors();
-    removeSceneChild("Hyperboloid", drawStyleSeparator);
-    for (const char* decoration : {"Center", "uHat", "U3ConstAxis", "U3Axis"}) {
+    removeSceneChild(HyperboloidNames::surface, drawStyleSeparator);
+    for (const char* decoration : HyperboloidNames::decorations) {
         removeSceneChild(decoration, phongSeparator);
     }
     Draw();
@@ -170,7 +150,7 @@ void HyperboloidFrame::setTransparency(int value, bool redraw) {
 }
 
 bool HyperboloidFrame::is_point_in_hyperboloid(const SoPickedPoint* point) const {
-    return point->getPath()->getTail()->getName() == SbName("HyperboloidMesh");
+    return point->getPath()->getTail()->getName() == SbName(HyperboloidNames::mesh);
 }
 
 int HyperboloidFrame::get_index(const SoPickedPoint* point) const {
@@ -178,10 +158,12 @@ int HyperboloidFrame::get_index(const SoPickedPoint* point) const {
 }
 
 void HyperboloidFrame::addNewSphere(SbName name, int index) {
+    const FloatTriple& vertexColor = colors[static_cast<std::size_t>(index)];
     auto* color = new SoMaterial;
-    color->diffuseColor.setValue(getColor(index, 0), getColor(index, 1), getColor(index, 2));
+    color->diffuseColor.setValue(vertexColor.x, vertexColor.y, vertexColor.z);
+    const FloatTriple& place = vertices[static_cast<std::size_t>(index)];
     auto* position = new SoTransform;
-    position->translation.setValue(getVertex(index, 0), getVertex(index, 1), getVertex(index, 2));
+    position->translation.setValue(place.x, place.y, place.z);
 
     SoSeparator* sphere = SceneNodes::createSeparator(name.getString());
     sphere->addChild(color);
@@ -195,7 +177,7 @@ void HyperboloidFrame::killSphere(SbName name) {
 }
 
 void HyperboloidFrame::refresh_spheres(int index) {
-    const SbName name = previousHelix->getName();
+    const SbName name = tiedHelix->getName();
     killSphere(name);
     addNewSphere(name, index);
 }
@@ -204,7 +186,7 @@ void HyperboloidFrame::refresh_hypos(int index) {
     const std::array<HyperboloidFrame*, 3> brothers{uBrother, getBrother(XSPACE),
                                                     getBrother(MSPACE)};
     for (HyperboloidFrame* brother : brothers) {
-        brother->SetPreviousHelix(previousHelix);
+        brother->SetPreviousHelix(tiedHelix);
     }
     for (HyperboloidFrame* brother : brothers) {
         brother->refresh_spheres(index);
@@ -213,9 +195,7 @@ void HyperboloidFrame::refresh_hypos(int index) {
 
 void HyperboloidFrame::refresh_helix(int index) {
     // The U coordinates whatever this frame's space is: they are what bends and twists the helix.
-    const HyperboloidFrame& u = *uBrother;
-    previousHelix->refresh(u.getVertex(index, 0), u.getVertex(index, 1), u.getVertex(index, 2),
-                           index, u.getColor(index, 0), u.getColor(index, 1), u.getColor(index, 2));
+    tiedHelix->refresh(uBrother->surfaceVertex(index));
 }
 
 void HyperboloidFrame::chooseVertex(int index) {
@@ -224,28 +204,9 @@ void HyperboloidFrame::chooseVertex(int index) {
 }
 
 void HyperboloidFrame::moveSphere(int direction) {
-    if (previousHelix) {
-        chooseVertex(neighbour(previousHelix->getIndex(), direction));
+    if (tiedHelix) {
+        chooseVertex(grid().neighbour(tiedHelix->getIndex(), direction));
     }
-}
-
-int HyperboloidFrame::neighbour(int index, int direction) const {
-    const int rows = static_cast<int>(numRow);
-    int row = index % rows;
-    int column = index / rows;
-    // Columns wrap modulo one less than their number: the last column repeats the first.
-    const int distinctColumns = std::max(static_cast<int>(numCol) - 1, 1);
-    if (direction == UP) {
-        row = std::max(row - 1, 0);
-    } else if (direction == DOWN) {
-        row = std::min(row + 1, rows - 1);
-    } else if (direction == RIGHT) {
-        // On purpose: right lowers the column and left raises it.
-        column = (column + distinctColumns - 1) % distinctColumns;
-    } else if (direction == LEFT) {
-        column = (column + 1) % distinctColumns;
-    }
-    return row + column * rows;
 }
 
 int HyperboloidFrame::processSoEvent(const SoEvent* event) {
@@ -269,7 +230,7 @@ int HyperboloidFrame::processKey(const SoKeyboardEvent& event) {
 
 int HyperboloidFrame::processMouseButton(const SoMouseButtonEvent& event) {
     const bool picks = !viewer->isViewing() || event.getButton() == SoMouseButtonEvent::BUTTON2;
-    if (event.getState() != SoButtonEvent::UP || !picks || !previousHelix) {
+    if (event.getState() != SoButtonEvent::UP || !picks || !tiedHelix) {
         return 0;
     }
     const int index = pickVertex(event);
@@ -289,16 +250,5 @@ int HyperboloidFrame::pickVertex(const SoMouseButtonEvent& event) const {
 }
 
 void HyperboloidFrame::DrawAxis(double halfLength, double radius) {
-    auto* tip = new SoTransform;
-    tip->translation.setValue(0, 0, static_cast<float>(halfLength));
-    tip->scaleFactor.setValue(0.15F, 0.15F, 0.15F);
-    tip->rotation.setValue(SbVec3f(1, 0, 0), 1.0471976F);
-
-    SoSeparator* axis = SceneNodes::createSeparator("Axis");
-    axis->addChild(SceneNodes::createMaterial(0, 0, 1));
-    axis->addChild(createAxisRings(halfLength, radius));
-    axis->addChild(SceneNodes::createQuadMesh(pointsPerRing, ringCount));
-    axis->addChild(tip);
-    axis->addChild(new SoCone);
-    phongSeparator->addChild(axis);
+    phongSeparator->addChild(HyperboloidDecorations::createAxisGlyph(halfLength, radius));
 }

@@ -18,9 +18,8 @@ void toggleDrawStyle();
  *
  * The three frames (U, X and M space) know each other as brothers. A vertex index names the same
  * parameter point in all three: choosing a vertex in one frame moves the tied helix's sphere in all
- * of them and gives the helix the vertex's U coordinates and colour.
- *
- * Vertex index = row + column * numRow.
+ * of them and gives the helix the vertex's U coordinates and colour. Vertices are numbered as in
+ * VertexGrid.
  */
 class HyperboloidFrame : public SoQtGeneralViewerFrame, public Hyperboloid {
     Q_OBJECT
@@ -55,7 +54,10 @@ public:
     HelixFrame* GetPreviousHelix() const;
     void PrevHelixDead();
 
-    /** In X and M space: copies the U brother's colours, vertex by vertex. */
+    /**
+     * In X and M space: copies the U brother's colours, vertex by vertex, when its tables are of
+     * the same grid as this frame's.
+     */
     void changeColors();
 
     using SoQtGeneralViewerFrame::reDraw;
@@ -111,10 +113,9 @@ private:
     int processKey(const SoKeyboardEvent& event);
     int processMouseButton(const SoMouseButtonEvent& event);
     int pickVertex(const SoMouseButtonEvent& event) const;
-    int neighbour(int index, int direction) const;
     void chooseVertex(int index);
 
-    QPointer<HelixFrame> previousHelix;
+    QPointer<HelixFrame> tiedHelix;
     QPointer<HyperboloidFrame> uBrother;
     QPointer<HyperboloidFrame> xBrother;
     QPointer<HyperboloidFrame> mBrother;

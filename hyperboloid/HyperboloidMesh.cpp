@@ -23,7 +23,7 @@ constexpr int patchSize = 16;
 /** What rounding may move a ray sideways, as a share of the distance. */
 constexpr double rounding = 1e-5;
 
-/** The radius of a patch without any finite vertex. */
+/** The radius of a patch without any finite vertex: no ray comes as near. */
 constexpr double nothingToHit = -std::numeric_limits<double>::infinity();
 
 /** Whether a line comes as near to a point as a radius; also when that cannot be told (NaN). */
@@ -35,15 +35,19 @@ bool comesNear(const SbLine& line, const SbVec3f& center, double radius) {
 
 } // namespace
 
-HyperboloidMesh::HyperboloidMesh(int rows, int columns) {
-    verticesPerRow = rows;
-    verticesPerColumn = columns;
+HyperboloidMesh::HyperboloidMesh(const VertexGrid& grid) {
+    verticesPerRow = grid.rows;
+    verticesPerColumn = grid.columns;
+}
+
+VertexGrid HyperboloidMesh::grid() const {
+    return {verticesPerColumn.getValue(), verticesPerRow.getValue()};
 }
 
 void HyperboloidMesh::computeBBox(SoAction* action, SbBox3f& box, SbVec3f& center) {
     const auto* coordinates = SoCoordinateElement::getInstance(action->getState());
     const SbVec3f* points = coordinates->getArrayPtr3();
-    const int vertexCount = verticesPerRow.getValue() * verticesPerColumn.getValue();
+    const auto vertexCount = static_cast<int>(grid().vertexCount());
     box.makeEmpty();
     for (int vertex = 0; vertex < std::min(vertexCount, coordinates->getNum()); ++vertex) {
         if (isFinite(points[vertex])) {
@@ -83,9 +87,9 @@ void HyperboloidMesh::updateBands(const SbVec3f* points) {
     }
     boundedPoints = points;
     bands.clear();
-    for (int strip = 0; strip < verticesPerColumn.getValue() - 1; strip += patchSize) {
+    for (int strip = 0; strip < grid().columns - 1; strip += patchSize) {
         Band band;
-        for (int quad = 0; quad < verticesPerRow.getValue() - 1; quad += patchSize) {
+        for (int quad = 0; quad < grid().rows - 1; quad += patchSize) {
             band.push_back(createPatch(strip, quad, points));
         }
         bands.push_back(std::move(band));
@@ -94,15 +98,14 @@ void HyperboloidMesh::updateBands(const SbVec3f* points) {
 
 HyperboloidMesh::Patch HyperboloidMesh::createPatch(int firstStrip, int firstQuad,
                                                     const SbVec3f* points) const {
-    const int rows = verticesPerRow.getValue();
-    Patch patch{
-        firstStrip,       std::min(firstStrip + patchSize, verticesPerColumn.getValue() - 1),
-        firstQuad,        std::min(firstQuad + patchSize, rows - 1),
-        SbVec3f(0, 0, 0), std::numeric_limits<double>::infinity()};
+    const VertexGrid vertices = grid();
+    Patch patch{firstStrip,       std::min(firstStrip + patchSize, vertices.columns - 1),
+                firstQuad,        std::min(firstQuad + patchSize, vertices.rows - 1),
+                SbVec3f(0, 0, 0), nothingToHit};
     SbBox3f box;
     for (int column = patch.firstStrip; column <= patch.lastStrip; ++column) {
         for (int row = patch.firstQuad; row <= patch.lastQuad; ++row) {
-            const SbVec3f& point = points[column * rows + row];
+            const SbVec3f& point = points[vertices.index(column, row)];
             if (isFinite(point)) {
                 box.extendBy(point);
             }
@@ -133,12 +136,13 @@ void HyperboloidMesh::pickInBand(SoRayPickAction* action, const Band& band, cons
 
 void HyperboloidMesh::pickInStrip(SoRayPickAction* action, int strip, const Patch& patch,
                                   const SbVec3f* points, const SbVec3f* normals) {
+    const VertexGrid vertices = grid();
     SoFaceDetail faceDetail;
     faceDetail.setPartIndex(strip);
     bool isOpen = false;
     for (int row = patch.firstQuad; row <= patch.lastQuad; ++row) {
-        const int left = strip * verticesPerRow.getValue() + row;
-        const int right = left + verticesPerRow.getValue();
+        const int left = vertices.index(strip, row);
+        const int right = vertices.index(strip + 1, row);
         // The library takes every ray for a hit of a triangle that is not finite: leave those out.
         const bool isDrawn = isFinite(points[left]) && isFinite(points[right]);
         if (isOpen && !isDrawn) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hyperboloid/VertexGrid.h"
+
 #include <Inventor/nodes/SoQuadMesh.h>
 #include <vector>
 
@@ -18,7 +20,7 @@
  */
 class HyperboloidMesh : public SoQuadMesh {
 public:
-    HyperboloidMesh(int rows, int columns);
+    explicit HyperboloidMesh(const VertexGrid& grid);
     HyperboloidMesh(const HyperboloidMesh&) = delete;
     HyperboloidMesh& operator=(const HyperboloidMesh&) = delete;
 
@@ -36,12 +38,13 @@ private:
         int firstQuad = 0;
         int lastQuad = 0;
         SbVec3f center{0, 0, 0};
-        /** Radius of a sphere around the finite vertices. */
+        /** Radius of a sphere around the finite vertices; minus infinity when there are none. */
         double radius = 0;
     };
     /** The patches that share their strips, in the order of their quadrilaterals. */
     using Band = std::vector<Patch>;
 
+    [[nodiscard]] VertexGrid grid() const;
     void updateBands(const SbVec3f* points);
     Patch createPatch(int firstStrip, int firstQuad, const SbVec3f* points) const;
     void pickInBand(SoRayPickAction* action, const Band& band, const SbVec3f* points,

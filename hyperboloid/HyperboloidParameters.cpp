@@ -2,8 +2,6 @@
 
 #include "hyperboloid/Hyperboloid.h"
 
-#include <algorithm>
-
 namespace {
 
 using Set = HyperboloidParameters;
@@ -77,22 +75,4 @@ HyperboloidCondition HyperboloidParameters::brokenCondition() const {
         return HyperboloidCondition::quadric;
     }
     return K1 > K2 ? HyperboloidCondition::order : HyperboloidCondition::none;
-}
-
-double HyperboloidParameter::valueIn(const HyperboloidParameters& set) const {
-    return std::visit([&](auto value) { return static_cast<double>(set.*value); }, member);
-}
-
-void HyperboloidParameter::setValueIn(HyperboloidParameters& set, double value) const {
-    std::visit(
-        [&](auto target) {
-            using Value = std::decay_t<decltype(set.*target)>;
-            set.*target = static_cast<Value>(value);
-        },
-        member);
-}
-
-const HyperboloidParameter& HyperboloidParameter::of(Member member) {
-    return *std::find_if(parameters.begin(), parameters.end(),
-                         [&](const HyperboloidParameter& one) { return one.member == member; });
 }

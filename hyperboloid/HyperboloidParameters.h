@@ -1,11 +1,11 @@
 #pragma once
 
+#include "hyperboloid/HyperboloidParameter.h"
+
 #include <array>
-#include <string_view>
-#include <variant>
+#include <cstddef>
 
 class Hyperboloid;
-struct HyperboloidParameter;
 
 /** The conditions on K1, K2, K3, K13 and K23, in the order in which they are checked. */
 enum class HyperboloidCondition {
@@ -40,7 +40,9 @@ struct HyperboloidParameters {
     double u3constRange = 7.0;
     /** Half the length of the u3 axis. */
     double u3axisRange = 7.0;
+    /** Radius of the tubes that the lines of constant u3 are drawn as. */
     double u3constRadius = 0.02;
+    /** Radius of the tube that the u3 axis is drawn as. */
     double u3axisRadius = 0.03;
 
     /** How many values a set has. */
@@ -49,32 +51,10 @@ struct HyperboloidParameters {
     /** What is known of each value, in the order of the members. */
     static const std::array<HyperboloidParameter, count>& all();
 
-    /** The values that a model has now. */
+    /** The values that a model has now; it keeps K as floats, which are widened. */
     static HyperboloidParameters of(const Hyperboloid& hyperboloid);
 
-    /** The first condition that the values break; none when they are to be accepted. */
+    /** The first condition that the values break; none when they are to be accepted. A NaN breaks
+     * no condition. */
     [[nodiscard]] HyperboloidCondition brokenCondition() const;
-};
-
-/** One of the fifteen parameters: where it stands in a set, and what can be entered for it. */
-struct HyperboloidParameter {
-    using Member = std::variant<double HyperboloidParameters::*, int HyperboloidParameters::*>;
-
-    /** For example "K13". */
-    std::string_view name;
-    Member member;
-    /** The least and the greatest value that can be entered. */
-    double minimum;
-    double maximum;
-    /** Digits after the decimal point that can be entered; 0 for a whole number. */
-    int decimals;
-    /** The difference that one press of an arrow key makes. */
-    double step;
-
-    /** The value in a set; a whole number is widened. */
-    [[nodiscard]] double valueIn(const HyperboloidParameters& set) const;
-    /** Sets the value in a set; for a whole number the value is truncated. */
-    void setValueIn(HyperboloidParameters& set, double value) const;
-    /** What is known of a member. */
-    static const HyperboloidParameter& of(Member member);
 };

@@ -1,12 +1,11 @@
 #include "hyperboloid/HyperboloidSurface.h"
 
-#include <algorithm>
+#include "math/Constants.h"
+
 #include <cmath>
+#include <cstddef>
 
 namespace {
-
-constexpr double pi = 3.141592653589793;
-constexpr std::size_t floatsPerVertex = 3;
 
 /** What all vertices of one grid column share. */
 struct Column {
@@ -36,27 +35,28 @@ OrderedSemiAxes orderSemiAxes(const std::array<float, 3>& semiAxes, bool swapAxe
 }
 
 /** The number of steps between `count` grid lines; it passes through float, like the indices. */
-double stepsBetween(unsigned int count) {
+double stepsBetween(int count) {
     return static_cast<double>(static_cast<float>(count - 1));
 }
 
-Column columnAt(unsigned int index, const HyperboloidSurface::Parameters& parameters) {
+Column columnAt(int index, const HyperboloidSurface::Parameters& parameters) {
     const double doubledIndex = 2.0 * static_cast<double>(static_cast<float>(index));
-    const auto theta = static_cast<float>(doubledIndex * pi / stepsBetween(parameters.columns));
+    const auto theta =
+        static_cast<float>(doubledIndex * Constants::pi / stepsBetween(parameters.grid.columns));
     return {std::cos(theta), static_cast<double>(std::sin(theta)) * parameters.semiAxes[2]};
 }
 
-Row rowAt(unsigned int index, const HyperboloidSurface::Parameters& parameters,
-          double axisSemiAxis) {
+Row rowAt(int index, const HyperboloidSurface::Parameters& parameters, double axisSemiAxis) {
     const double h = parameters.halfHeight;
-    const auto t = static_cast<float>(2.0 * h * index / stepsBetween(parameters.rows) - h);
+    const auto t = static_cast<float>(2.0 * h * index / stepsBetween(parameters.grid.rows) - h);
     return {std::sqrt(static_cast<double>(t * t) + 1.0), t * axisSemiAxis};
 }
 
 std::vector<Row> allRows(const HyperboloidSurface::Parameters& parameters, double axisSemiAxis) {
-    std::vector<Row> rows(parameters.rows);
-    for (unsigned int j = 0; j < parameters.rows; ++j) {
-        rows[j] = rowAt(j, parameters, axisSemiAxis);
+    std::vector<Row> rows;
+    rows.reserve(static_cast<std::size_t>(parameters.grid.rows));
+    for (int j = 0; j < parameters.grid.rows; ++j) {
+        rows.push_back(rowAt(j, parameters, axisSemiAxis));
     }
     return rows;
 }
@@ -75,48 +75,40 @@ Triple canonicalPoint(const Column& column, const Row& row, double ringSemiAxis)
 
 /** Fills the table with the grid points, each carried from X space by `fromX`. */
 template <bool swapAxes, typename Map>
-void fillColumns(const HyperboloidSurface::Parameters& parameters, std::size_t columns,
-                 std::vector<float>& vertices, Map fromX) {
+void fillColumns(const HyperboloidSurface::Parameters& parameters,
+                 std::vector<FloatTriple>& vertices, Map fromX) {
     const OrderedSemiAxes semiAxes = orderSemiAxes(parameters.semiAxes, swapAxes);
     const std::vector<Row> rows = allRows(parameters, semiAxes.alongAxis);
-    for (unsigned int i = 0; i < columns; ++i) {
+    for (int i = 0; i < parameters.grid.columns; ++i) {
         const Column column = columnAt(i, parameters);
-        float* columnVertices = vertices.data() + floatsPerVertex * i * rows.size();
+        FloatTriple* columnVertices = vertices.data() + parameters.grid.index(i, 0);
         for (std::size_t j = 0; j < rows.size(); ++j) {
-            const Triple point = fromX(canonicalPoint<swapAxes>(column, rows[j], semiAxes.ring));
-            columnVertices[floatsPerVertex * j] = static_cast<float>(point.x);
-            columnVertices[floatsPerVertex * j + 1] = static_cast<float>(point.y);
-            columnVertices[floatsPerVertex * j + 2] = static_cast<float>(point.z);
+            columnVertices[j] =
+                narrowed(fromX(canonicalPoint<swapAxes>(column, rows[j], semiAxes.ring)));
         }
     }
 }
 
-/** fillColumns for the axis and for as many columns as the table holds. */
+/** fillColumns for the axis. */
 template <typename Map>
-void fillGrid(const HyperboloidSurface::Parameters& parameters, std::vector<float>& vertices,
+void fillGrid(const HyperboloidSurface::Parameters& parameters, std::vector<FloatTriple>& vertices,
               Map fromX) {
-    const std::size_t columns = HyperboloidSurface::columnsThatFit(
-        parameters.columns, parameters.rows, vertices.size() / floatsPerVertex);
-    if (columns == 0) {
-        return; // not even one column fits, and computing all its rows could be too much, too
+    if (vertices.empty()) {
+        return; // without columns, the rows could still be too many to compute
     }
     // The axis is a template argument: a choice at every vertex would keep the loop from being
     // vectorised.
     if (parameters.swapAxes) {
-        fillColumns<true>(parameters, columns, vertices, fromX);
+        fillColumns<true>(parameters, vertices, fromX);
     } else {
-        fillColumns<false>(parameters, columns, vertices, fromX);
+        fillColumns<false>(parameters, vertices, fromX);
     }
 }
 
 } // namespace
 
-std::size_t HyperboloidSurface::columnsThatFit(unsigned int columns, unsigned int rows,
-                                               std::size_t vertexCount) {
-    return rows == 0 ? 0 : std::min<std::size_t>(columns, vertexCount / rows);
-}
-
-void HyperboloidSurface::generate(const Parameters& parameters, std::vector<float>& vertices) {
+void HyperboloidSurface::generate(const Parameters& parameters,
+                                  std::vector<FloatTriple>& vertices) {
     // A copy on the stack: nothing the loop writes can change the maps it applies.
     const HyperboloidSpaces spaces = parameters.spaces;
     switch (parameters.space) {

@@ -2,27 +2,26 @@
 
 #include <algorithm>
 
-int VertexGrid::neighbour(int index, int direction) const {
-    int row = index % rows;
-    int column = index / rows;
+std::size_t VertexGrid::vertexCount() const {
+    return static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows);
+}
+
+int VertexGrid::neighbour(int vertex, int direction) const {
+    const int row = vertex % rows;
+    const int column = vertex / rows;
     const int distinctColumns = std::max(columns - 1, 1);
     switch (direction) {
     case up:
-        row = std::max(row - 1, 0);
-        break;
+        return index(column, std::max(row - 1, 0));
     case down:
-        row = std::min(row + 1, rows - 1);
-        break;
+        return index(column, std::min(row + 1, rows - 1));
     case right:
-        column = (column + distinctColumns - 1) % distinctColumns;
-        break;
+        return index((column + distinctColumns - 1) % distinctColumns, row);
     case left:
-        column = (column + 1) % distinctColumns;
-        break;
+        return index((column + 1) % distinctColumns, row);
     default:
-        break;
+        return vertex;
     }
-    return row + column * rows;
 }
 
 int VertexGrid::atSamePlace(int index, int oldCount, int newCount) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 /**
  * The numbering of the surface's vertices: columns go around it, rows go along it, and vertex
  * index = row + column * rows. The last column repeats the first, so that the surface closes.
@@ -14,12 +16,18 @@ struct VertexGrid {
     int columns;
     int rows;
 
+    /** columns * rows */
+    [[nodiscard]] std::size_t vertexCount() const;
+
+    /** The index of the vertex where a column and a row meet; neither is checked. */
+    [[nodiscard]] int index(int column, int row) const { return row + column * rows; }
+
     /**
-     * The vertex one step away. Rows end at the first and the last; columns wrap around, and the
-     * last column, which repeats the first, is never reached. On purpose right lowers the column
-     * and left raises it. A direction that is none leads nowhere.
+     * The vertex one step away, on a grid that has vertices. Rows end at the first and the last;
+     * columns wrap around, and the last column, which repeats the first, is never reached. On
+     * purpose right lowers the column and left raises it. A direction that is none leads nowhere.
      */
-    [[nodiscard]] int neighbour(int index, int direction) const;
+    [[nodiscard]] int neighbour(int vertex, int direction) const;
 
     /**
      * The vertex of a new grid of `newCount` vertices at the relative place of vertex `index` of an
@@ -28,3 +36,11 @@ struct VertexGrid {
      */
     static int atSamePlace(int index, int oldCount, int newCount);
 };
+
+inline bool operator==(const VertexGrid& left, const VertexGrid& right) {
+    return left.columns == right.columns && left.rows == right.rows;
+}
+
+inline bool operator!=(const VertexGrid& left, const VertexGrid& right) {
+    return !(left == right);
+}

@@ -1,3 +1,4 @@
+#include "hyperboloid/HyperboloidNames.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
@@ -19,9 +20,9 @@ SliderWindow openAppearanceWindow(const OpenedWindow& opened) {
 class SurfaceDrawings {
 public:
     explicit SurfaceDrawings(const OpenedWindow& opened)
-        : u(branch(opened, Hyperboloid::USPACE), "Hyperboloid")
-        , x(branch(opened, Hyperboloid::XSPACE), "Hyperboloid")
-        , m(branch(opened, Hyperboloid::MSPACE), "Hyperboloid") {}
+        : u(branch(opened, Hyperboloid::USPACE), HyperboloidNames::surface)
+        , x(branch(opened, Hyperboloid::XSPACE), HyperboloidNames::surface)
+        , m(branch(opened, Hyperboloid::MSPACE), HyperboloidNames::surface) {}
 
     std::vector<int> take() { return {u.take(), x.take(), m.take()}; }
 
@@ -40,8 +41,8 @@ const std::vector<int> twice{2, 2, 2};
 const std::vector<int> never{0, 0, 0};
 
 float transparencyInScene(const HyperboloidFrame& frame) {
-    const SoSeparator* surface =
-        SceneReader::childNamed(SceneReader::drawStyleBranch(*frame.getSceneRoot()), "Hyperboloid");
+    const SoSeparator* surface = SceneReader::childNamed(
+        SceneReader::drawStyleBranch(*frame.getSceneRoot()), HyperboloidNames::surface);
     return SceneReader::child<SoMaterial>(*surface, 0)->transparency[0];
 }
 
@@ -62,7 +63,7 @@ void expectSharedColors(const OpenedWindow& opened) {
         const HyperboloidFrame& frame = opened.hyperboloid(space);
         EXPECT_EQ(colorsOf(frame), expected) << "space " << space;
         const SoSeparator* surface = SceneReader::childNamed(
-            SceneReader::drawStyleBranch(*frame.getSceneRoot()), "Hyperboloid");
+            SceneReader::drawStyleBranch(*frame.getSceneRoot()), HyperboloidNames::surface);
         const auto* material = SceneReader::child<SoMaterial>(*surface, 0);
         EXPECT_EQ(material->diffuseColor[100], SbColor(&expected[300])) << "space " << space;
     }

@@ -1,4 +1,5 @@
 #include "helix/HelixNames.h"
+#include "hyperboloid/HyperboloidNames.h"
 #include "hyperboloid/HyperboloidParameters.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/OpenedWindow.h"
@@ -308,7 +309,8 @@ TEST(ParameterDialogTest, AcceptedValuesReachAllThreeModels) {
         EXPECT_EQ(opened.hyperboloid(space).getNumCol(), 30U);
         EXPECT_EQ(opened.hyperboloid(space).getNumRow(), 20U);
         const SoSeparator* surface = SceneReader::childNamed(
-            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()), "Hyperboloid");
+            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
+            HyperboloidNames::surface);
         EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor.getNum(), 600);
     }
     for (int k = 0; k < 600; ++k) {
@@ -330,7 +332,7 @@ TEST(ParameterDialogTest, OkButtonAndEnterAcceptEachSurfaceDrawnOnce) {
     const OpenedWindow opened;
     ReplacementCounter drawings(
         SceneReader::drawStyleBranch(*opened.hyperboloid(Hyperboloid::MSPACE).getSceneRoot()),
-        "Hyperboloid");
+        HyperboloidNames::surface);
     answerParameters(opened, {[](QWidget& dialog) {
                          click(dialog, "Ok");
                      }});
@@ -348,7 +350,7 @@ TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
     for (int space = 0; space < 3; ++space) {
         drawings.push_back(std::make_unique<ReplacementCounter>(
             SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
-            "Hyperboloid"));
+            HyperboloidNames::surface));
     }
     drawings.push_back(std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(),
                                                             HelixNames::tube));

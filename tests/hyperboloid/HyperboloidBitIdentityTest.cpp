@@ -1,4 +1,4 @@
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 #include "tests/reference/PlainHyperboloid.h"
 
 #include <gtest/gtest.h>
@@ -32,10 +32,10 @@ void expectSameTable(const std::vector<float>& model, const std::vector<float>& 
     }
 }
 
-void expectSameBits(const KAndUHat& p, int space, int columns, int rows, double saturation = 0.8,
-                    double lightness = 0.5) {
+void expectSameBits(const HyperboloidParameters& p, int space, int columns, int rows,
+                    double saturation = 0.8, double lightness = 0.5) {
     testing::internal::CaptureStderr();
-    OpenHyperboloid model(p, space);
+    ExposedHyperboloid model(p, space);
     model.saturation = saturation;
     model.lightness = lightness;
     // Axes keep their earlier order in degenerate cases; the plain ones begin unswapped.
@@ -55,12 +55,12 @@ void expectSameBits(const KAndUHat& p, int space, int columns, int rows, double 
         const auto component = static_cast<std::size_t>(i);
         EXPECT_TRUE(sameBits(model.semiAxis[component], plain.semiAxis[i])) << where;
     }
-    expectSameTable(model.vertices, plain.vertexTable(), "vertices" + where);
+    expectSameTable(floatsOf(model.vertices), plain.vertexTable(), "vertices" + where);
     expectSameTable(model.energies, plain.energyTable(), "energies" + where);
-    expectSameTable(model.colors, plain.colorTable(), "colours" + where);
+    expectSameTable(floatsOf(model.colors), plain.colorTable(), "colours" + where);
 }
 
-void expectSameBitsInAllSpaces(const KAndUHat& p, int columns, int rows) {
+void expectSameBitsInAllSpaces(const HyperboloidParameters& p, int columns, int rows) {
     for (int space = 0; space < 3; ++space) {
         expectSameBits(p, space, columns, rows);
     }
@@ -69,7 +69,7 @@ void expectSameBitsInAllSpaces(const KAndUHat& p, int columns, int rows) {
 TEST(HyperboloidBits, EqualThePlainComputationOnEveryGridShape) {
     const int shapes[][2] = {{0, 0}, {0, 5}, {5, 0},   {1, 1},   {1, 7},   {7, 1},   {2, 2}, {2, 3},
                              {3, 2}, {4, 5}, {5, 500}, {500, 5}, {64, 64}, {33, 17}, {10, 9}};
-    for (const KAndUHat& parameters : {startUp, unswapped}) {
+    for (const HyperboloidParameters& parameters : {startUp, unswapped}) {
         for (const auto& [columns, rows] : shapes) {
             expectSameBitsInAllSpaces(parameters, columns, rows);
         }
@@ -86,8 +86,8 @@ TEST(HyperboloidBits, EqualThePlainComputationForManyParameters) {
     int swapped = 0;
     constexpr int sets = 200;
     for (int i = 0; i < sets; ++i) {
-        const KAndUHat p{entry(random), entry(random), entry(random), entry(random),
-                         entry(random), entry(random), entry(random), entry(random)};
+        const HyperboloidParameters p{entry(random), entry(random), entry(random), entry(random),
+                                      entry(random), entry(random), entry(random), entry(random)};
         expectSameBitsInAllSpaces(p, 19, 13);
         swapped += p.K13 * p.K23 > 0.0 ? 1 : 0;
     }
@@ -98,7 +98,7 @@ TEST(HyperboloidBits, EqualThePlainComputationForManyParameters) {
 TEST(HyperboloidBits, EqualThePlainComputationForDegenerateParameters) {
     const double infinity = std::numeric_limits<double>::infinity();
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    const KAndUHat degenerate[] = {
+    const HyperboloidParameters degenerate[] = {
         withoutK13,
         withoutK23,
         withoutUHat,
@@ -116,7 +116,7 @@ TEST(HyperboloidBits, EqualThePlainComputationForDegenerateParameters) {
         {1.0, 2.0, 1.0, 0.5, 0.5, 2.0, -1.0, 0.0},
         {1.0, 2.0, 1.0, 0.5, 0.5, 2.0, 1.0, 0.0},
     };
-    for (const KAndUHat& parameters : degenerate) {
+    for (const HyperboloidParameters& parameters : degenerate) {
         expectSameBitsInAllSpaces(parameters, 9, 7);
     }
 }
@@ -130,14 +130,14 @@ TEST(HyperboloidBits, EqualThePlainColoursForEverySaturationAndLightness) {
 }
 
 TEST(HyperboloidBits, StayTheSameWhenTheGridShrinksAndGrows) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    const std::vector<float> first = hyperboloid.vertices;
-    const std::vector<float> firstColors = hyperboloid.colors;
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    const std::vector<float> first = floatsOf(hyperboloid.vertices);
+    const std::vector<float> firstColors = floatsOf(hyperboloid.colors);
     hyperboloid.regenerate(unswapped, 5, 9);
     hyperboloid.regenerate(startUp, 200, 90);
     hyperboloid.regenerate(startUp, 64, 64);
-    expectSameTable(hyperboloid.vertices, first, "vertices");
-    expectSameTable(hyperboloid.colors, firstColors, "colours");
+    expectSameTable(floatsOf(hyperboloid.vertices), first, "vertices");
+    expectSameTable(floatsOf(hyperboloid.colors), firstColors, "colours");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "hyperboloid/HyperboloidCoefficients.h"
 
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ using Triplet = std::array<double, 3>;
 
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
-Coefficients::Pnas pnasOf(const KAndUHat& p) {
+Coefficients::Pnas pnasOf(const HyperboloidParameters& p) {
     return Coefficients::pnas({static_cast<float>(p.K1), static_cast<float>(p.K2),
                                static_cast<float>(p.K3), static_cast<float>(p.K13),
                                static_cast<float>(p.K23)},

@@ -1,8 +1,9 @@
 #include "hyperboloid/HyperboloidDecorations.h"
 
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 #include "tests/hyperboloid/SceneReading.h"
 
+#include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoIndexedFaceSet.h>
 #include <Inventor/nodes/SoQuadMesh.h>
 #include <Inventor/nodes/SoSphere.h>
@@ -17,7 +18,7 @@ namespace {
 using Point = std::array<double, 3>;
 
 constexpr int allSpaces[] = {Hyperboloid::USPACE, Hyperboloid::XSPACE, Hyperboloid::MSPACE};
-constexpr KAndUHat ordinary{2.0, 0.7, 1.2, 0.3, 0.4, 0.5, -0.8, 0.3};
+constexpr HyperboloidParameters ordinary{2.0, 0.7, 1.2, 0.3, 0.4, 0.5, -0.8, 0.3};
 
 const std::vector<float> red{1.0F, 0.0F, 0.0F};
 const std::vector<float> yellow{1.0F, 1.0F, 0.0F};
@@ -28,7 +29,7 @@ Vecteur toVecteur(const Point& p) {
 }
 
 /** A point of U space in the model's space, by x = R u + s and m = K (u - uHat) written out. */
-Point carried(const OpenHyperboloid& h, const KAndUHat& p, const Point& u) {
+Point carried(const ExposedHyperboloid& h, const HyperboloidParameters& p, const Point& u) {
     if (h.WichSpace() == Hyperboloid::XSPACE) {
         const auto R = entries(h.rotationMatrix);
         Point x{};
@@ -183,7 +184,7 @@ void expectMarker(SoSeparator* marker, const char* name, const Point& position,
 }
 
 TEST(HyperboloidNormals, OfAVectorAlongTheThirdAxisAreTheOtherTwoAxes) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     for (const double third : {5.0, -5.0, 0.0}) {
         Vecteur nA(3);
         Vecteur nB(3);
@@ -194,7 +195,7 @@ TEST(HyperboloidNormals, OfAVectorAlongTheThirdAxisAreTheOtherTwoAxes) {
 }
 
 TEST(HyperboloidNormals, OfTheSecondAxisAreKnown) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     Vecteur nA(3);
     Vecteur nB(3);
     hyperboloid.find_normals(Vecteur(0.0, 2.0, 0.0), nA, nB);
@@ -216,7 +217,7 @@ TEST(HyperboloidNormals, AreUnitVectorsPerpendicularToTheVectorAndEachOther) {
 }
 
 TEST(HyperboloidTube, RunsFromAToBWithTwoClosedRings) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
     const Point A{1.0, -2.0, 0.5};
     const Point B{-3.0, 4.0, 2.0};
     const NodePointer<SoSeparator> tube(
@@ -254,20 +255,20 @@ TEST(HyperboloidTube, SumsInDoubleFromLeftToRight) {
 }
 
 TEST(HyperboloidTube, IsRedWhenNotBlue) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> tube(
         hyperboloid.DrawTubeLine(Vecteur(0.0, 0.0, 0.0), Vecteur(0.0, 0.0, -1.0), 1.0F, false));
     expectTube(tube.get(), {0.0, 0.0, 0.0}, {0.0, 0.0, -1.0}, 1.0F, red);
 }
 
 TEST(HyperboloidTube, BetweenVectorsOfDifferentDimensionIsRefused) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     EXPECT_THROW(hyperboloid.DrawTubeLine(Vecteur(2), Vecteur(3), 1.0F, false), std::string);
     EXPECT_THROW(hyperboloid.DrawTubeLine(Vecteur(2), Vecteur(2), 1.0F, false), std::string);
 }
 
 TEST(HyperboloidCone, PointsAwayFromBWithItsBaseOnA) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const Point A{1.0, -2.0, 0.5};
     const Point B{-3.0, 4.0, 2.0};
     const NodePointer<SoSeparator> cone(
@@ -291,7 +292,7 @@ TEST(HyperboloidCone, RimAngleIsSummedInSinglePrecision) {
 }
 
 TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> axis(hyperboloid.DrawU3Axis(7.0F, 0.03F));
     EXPECT_EQ(nameOf(axis.get()), "U3Axis");
     ASSERT_EQ(axis->getNumChildren(), 2);
@@ -305,7 +306,7 @@ TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
 
 TEST(HyperboloidU3Axis, IsCarriedIntoEverySpace) {
     for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(ordinary, space);
+        ExposedHyperboloid hyperboloid(ordinary, space);
         hyperboloid.setGrid(ordinary, 4, 4);
         const NodePointer<SoSeparator> axis(hyperboloid.DrawU3Axis(5.0F, 0.5F));
         const Point P1 = carried(hyperboloid, ordinary, {0.0, 0.0, -5.0});
@@ -317,7 +318,7 @@ TEST(HyperboloidU3Axis, IsCarriedIntoEverySpace) {
 }
 
 TEST(HyperboloidU3ConstLines, OfTheStartUpParametersAreKnown) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> lines(hyperboloid.DrawU3ConstAxis(7.0F, 0.02F));
     EXPECT_EQ(nameOf(lines.get()), "U3ConstAxis");
     ASSERT_EQ(lines->getNumChildren(), 4);
@@ -332,7 +333,7 @@ TEST(HyperboloidU3ConstLines, OfTheStartUpParametersAreKnown) {
 
 TEST(HyperboloidU3ConstLines, AreCarriedIntoEverySpace) {
     for (const int space : allSpaces) {
-        OpenHyperboloid h(ordinary, space);
+        ExposedHyperboloid h(ordinary, space);
         h.setGrid(ordinary, 4, 4);
         const NodePointer<SoSeparator> lines(h.DrawU3ConstAxis(3.0F, 0.1F));
         const double upper = -h.a / h.b;
@@ -352,8 +353,8 @@ TEST(HyperboloidU3ConstLines, AreCarriedIntoEverySpace) {
 }
 
 TEST(HyperboloidU3ConstLines, LieOnTheQuadric) {
-    const OpenHyperboloid h(ordinary, Hyperboloid::USPACE);
-    OpenHyperboloid inMSpace(ordinary, Hyperboloid::MSPACE);
+    const ExposedHyperboloid h(ordinary, Hyperboloid::USPACE);
+    ExposedHyperboloid inMSpace(ordinary, Hyperboloid::MSPACE);
     const double upper = -h.a / h.b;
     const double lower = -h.c / h.d;
     const double second = h.c - (h.a * h.d) / h.b;
@@ -367,7 +368,7 @@ TEST(HyperboloidU3ConstLines, LieOnTheQuadric) {
 
 TEST(HyperboloidU3ConstLines, AreNotFiniteWithoutB) {
     testing::internal::CaptureStderr();
-    OpenHyperboloid hyperboloid(withoutK13, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(withoutK13, Hyperboloid::USPACE);
     testing::internal::GetCapturedStderr();
     const NodePointer<SoSeparator> lines(hyperboloid.DrawU3ConstAxis(7.0F, 0.02F));
     ASSERT_EQ(lines->getNumChildren(), 4);
@@ -379,7 +380,7 @@ TEST(HyperboloidU3ConstLines, AreNotFiniteWithoutB) {
 
 TEST(HyperboloidMarkers, UHatIsYellowAtItsPointInEverySpace) {
     for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(ordinary, space);
+        ExposedHyperboloid hyperboloid(ordinary, space);
         hyperboloid.setGrid(ordinary, 4, 4);
         const NodePointer<SoSeparator> marker(hyperboloid.DrawUHat());
         expectMarker(marker.get(), "uHat",
@@ -389,7 +390,7 @@ TEST(HyperboloidMarkers, UHatIsYellowAtItsPointInEverySpace) {
 }
 
 TEST(HyperboloidMarkers, UHatIsTheOriginOfMSpaceEvenForInfiniteK) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
     hyperboloid.set_k_uHat(std::numeric_limits<double>::infinity(), 1.0, 1.0, 1.0, 1.0, 1.0, 2.0,
                            3.0);
     const NodePointer<SoSeparator> marker(hyperboloid.DrawUHat());
@@ -398,7 +399,7 @@ TEST(HyperboloidMarkers, UHatIsTheOriginOfMSpaceEvenForInfiniteK) {
 
 TEST(HyperboloidMarkers, TheCenterIsRedAtItsPointInEverySpace) {
     for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(ordinary, space);
+        ExposedHyperboloid hyperboloid(ordinary, space);
         hyperboloid.setGrid(ordinary, 4, 4);
         // The centre u solves R u + s = 0.
         const Point s = coordinates(hyperboloid.shift);
@@ -413,14 +414,14 @@ TEST(HyperboloidMarkers, TheCenterIsRedAtItsPointInEverySpace) {
 }
 
 TEST(HyperboloidMarkers, TheCenterIsExactlyTheOriginOfXSpace) {
-    OpenHyperboloid hyperboloid(ordinary, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(ordinary, Hyperboloid::XSPACE);
     const NodePointer<SoSeparator> marker(hyperboloid.DrawCenter());
     EXPECT_EQ(childAs<SoTransform>(marker.get(), 0)->translation.getValue(),
               SbVec3f(0.0F, 0.0F, 0.0F));
 }
 
 TEST(HyperboloidMarkers, AreResizedTogetherWithTheSharedSphere) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> uHat(hyperboloid.DrawUHat());
     const NodePointer<SoSeparator> center(hyperboloid.DrawCenter());
     hyperboloid.createMySphere(2.5F);
@@ -430,6 +431,41 @@ TEST(HyperboloidMarkers, AreResizedTogetherWithTheSharedSphere) {
         ASSERT_EQ(group->getNumChildren(), 1);
         EXPECT_EQ(childAs<SoSphere>(group, 0)->radius.getValue(), 2.5F);
     }
+}
+
+TEST(HyperboloidAxisGlyph, IsSummedWithoutAnyFurtherTerm) {
+    const double halfLength = 2.3;
+    const double radius = -0.7; // negative, so that the zeros of the sines change their sign
+    const NodePointer<SoSeparator> glyph(
+        HyperboloidDecorations::createAxisGlyph(halfLength, radius));
+    EXPECT_EQ(nameOf(glyph.get()), "Axis");
+    ASSERT_EQ(glyph->getNumChildren(), 5);
+    expectColorInThreeFields(childAs<SoMaterial>(glyph.get(), 0), blue);
+    const SoMFVec3f& points = childAs<SoCoordinate3>(glyph.get(), 1)->point;
+    ASSERT_EQ(points.getNum(), 60);
+    for (int k = 0; k < 30; ++k) {
+        const double theta = k * 6.283185307179586 / 29;
+        for (int ring = 0; ring < 2; ++ring) {
+            const SbVec3f& point = points[30 * ring + k];
+            EXPECT_EQ(point[0], static_cast<float>(radius * std::cos(theta)));
+            EXPECT_EQ(point[1], static_cast<float>(radius * std::sin(theta)));
+            EXPECT_EQ(point[2], ring == 0 ? 2.3F : -2.3F);
+        }
+    }
+    EXPECT_TRUE(std::signbit(points[0][1])) << "a zero with the radius's sign";
+}
+
+TEST(HyperboloidAxisGlyph, EndsInASmallCone) {
+    const NodePointer<SoSeparator> glyph(HyperboloidDecorations::createAxisGlyph(2.3, 0.7));
+    const auto* mesh = childAs<SoQuadMesh>(glyph.get(), 2);
+    const auto* tip = childAs<SoTransform>(glyph.get(), 3);
+    ASSERT_TRUE(mesh != nullptr && tip != nullptr);
+    EXPECT_EQ(mesh->verticesPerRow.getValue(), 30);
+    EXPECT_EQ(mesh->verticesPerColumn.getValue(), 2);
+    EXPECT_EQ(tip->translation.getValue(), SbVec3f(0.0F, 0.0F, 2.3F));
+    EXPECT_EQ(tip->scaleFactor.getValue(), SbVec3f(0.15F, 0.15F, 0.15F));
+    EXPECT_EQ(tip->rotation.getValue(), SbRotation(SbVec3f(1.0F, 0.0F, 0.0F), 1.0471976F));
+    EXPECT_NE(childAs<SoCone>(glyph.get(), 4), nullptr);
 }
 
 } // namespace

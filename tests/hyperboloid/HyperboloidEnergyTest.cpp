@@ -1,6 +1,6 @@
 #include "hyperboloid/HyperboloidEnergy.h"
 
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 
 #include <gtest/gtest.h>
 
@@ -17,9 +17,13 @@ constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
 Color colorOf(double saturation, double lightness, float energy) {
-    float rgb[3];
-    Palette(saturation, lightness).colorOf(energy, rgb);
-    return {rgb[0], rgb[1], rgb[2]};
+    const FloatTriple rgb = Palette(saturation, lightness).colorOf(energy);
+    return {rgb.x, rgb.y, rgb.z};
+}
+
+bool allNanOnceNormalized(std::vector<float> energies) {
+    HyperboloidEnergy::normalize(energies);
+    return std::all_of(energies.begin(), energies.end(), [](float e) { return std::isnan(e); });
 }
 
 void expectColor(const Color& color, float red, float green, float blue) {
@@ -36,57 +40,51 @@ TEST(HyperboloidEnergy, EnergyIsTheQuadraticFormOfTheDifferenceFromUHat) {
 }
 
 TEST(HyperboloidEnergy, EnergyUsesTheDoubleMatrixAndTheDoubleUHat) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.set_k_uHat(0.1, 0.0, 0.0, 0.0, 0.0, 0.3, 0.0, 0.0);
     const double w = double{0.7F} - 0.3;
     EXPECT_EQ(hyperboloid.compute_energy({0.7F, 1.0F, 1.0F}), 0.1 * w * w);
 }
 
 TEST(HyperboloidEnergy, EnergyOfUHatItselfIsZero) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     EXPECT_EQ(hyperboloid.compute_energy({1.0F, 0.0F, 0.0F}), 0.0);
 }
 
 TEST(HyperboloidEnergy, NormalizedEnergiesRunFromExactlyZeroToExactlyOne) {
-    float energies[] = {3.0F, -1.0F, 7.0F, 0.1F};
-    HyperboloidEnergy::normalize(energies, 4);
+    std::vector<float> energies{3.0F, -1.0F, 7.0F, 0.1F};
+    HyperboloidEnergy::normalize(energies);
     EXPECT_EQ(energies[0], 0.5F);
     EXPECT_EQ(energies[1], 0.0F);
     EXPECT_EQ(energies[2], 1.0F);
     EXPECT_EQ(energies[3], (0.1F + 1.0F) / 8.0F);
 }
 
-TEST(HyperboloidEnergy, NormalizingTouchesOnlyTheGivenCount) {
-    float energies[] = {0.0F, 2.0F, 100.0F};
-    HyperboloidEnergy::normalize(energies, 2);
-    EXPECT_EQ(energies[1], 1.0F);
-    EXPECT_EQ(energies[2], 100.0F);
-    HyperboloidEnergy::normalize(nullptr, 0);
+TEST(HyperboloidEnergy, NormalizingNoEnergiesLeavesNone) {
+    std::vector<float> energies;
+    HyperboloidEnergy::normalize(energies);
+    EXPECT_TRUE(energies.empty());
 }
 
 TEST(HyperboloidEnergy, EqualEnergiesBecomeNan) {
-    float energies[] = {4.0F, 4.0F, 4.0F};
-    HyperboloidEnergy::normalize(energies, 3);
-    EXPECT_TRUE(std::all_of(energies, energies + 3, [](float e) { return std::isnan(e); }));
+    EXPECT_TRUE(allNanOnceNormalized({4.0F, 4.0F, 4.0F}));
 }
 
 TEST(HyperboloidEnergy, ALeadingNanSpoilsAllEnergies) {
-    float energies[] = {nan, 1.0F, 2.0F};
-    HyperboloidEnergy::normalize(energies, 3);
-    EXPECT_TRUE(std::all_of(energies, energies + 3, [](float e) { return std::isnan(e); }));
+    EXPECT_TRUE(allNanOnceNormalized({nan, 1.0F, 2.0F}));
 }
 
 TEST(HyperboloidEnergy, ALaterNanStaysAlone) {
-    float energies[] = {1.0F, nan, 2.0F};
-    HyperboloidEnergy::normalize(energies, 3);
+    std::vector<float> energies{1.0F, nan, 2.0F};
+    HyperboloidEnergy::normalize(energies);
     EXPECT_EQ(energies[0], 0.0F);
     EXPECT_TRUE(std::isnan(energies[1]));
     EXPECT_EQ(energies[2], 1.0F);
 }
 
 TEST(HyperboloidEnergy, AnInfiniteEnergyPressesTheOthersToZero) {
-    float energies[] = {1.0F, infinity, 2.0F};
-    HyperboloidEnergy::normalize(energies, 3);
+    std::vector<float> energies{1.0F, infinity, 2.0F};
+    HyperboloidEnergy::normalize(energies);
     EXPECT_EQ(energies[0], 0.0F);
     EXPECT_TRUE(std::isnan(energies[1]));
     EXPECT_EQ(energies[2], 0.0F);
@@ -143,34 +141,34 @@ TEST(HyperboloidColors, ANanLightnessTakesOneHalfForTheHighestChannel) {
 
 TEST(HyperboloidColors, ATableIsColouredLikeItsSingleEnergies) {
     const std::vector<float> energies{0.0F, 0.11F, 0.5F, nan, 0.9F, 1.0F};
-    std::vector<float> colors(3 * energies.size() + 1, -1.0F);
-    Palette(0.6, 0.4).colorsOf(energies.data(), energies.size(), colors.data());
+    const FloatTriple untouched{-1.0F, -1.0F, -1.0F};
+    std::vector<FloatTriple> colors(energies.size() + 1, untouched);
+    Palette(0.6, 0.4).colorsOf(energies, colors);
     for (std::size_t k = 0; k < energies.size(); ++k) {
-        EXPECT_EQ((Color{colors[3 * k], colors[3 * k + 1], colors[3 * k + 2]}),
-                  colorOf(0.6, 0.4, energies[k]));
+        EXPECT_EQ((Color{colors[k].x, colors[k].y, colors[k].z}), colorOf(0.6, 0.4, energies[k]));
     }
-    EXPECT_EQ(colors.back(), -1.0F);
+    EXPECT_EQ(colors.back(), untouched);
 }
 
 TEST(HyperboloidColors, TheModelReadsItsSettingsWhenItColours) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.saturation = 0.0;
     hyperboloid.lightness = 0.25;
     hyperboloid.transparency = 0.75;
     const std::vector<float> energies = hyperboloid.energies;
-    const std::vector<float> points = hyperboloid.vertices;
+    const std::vector<FloatTriple> points = hyperboloid.vertices;
     hyperboloid.generateHyperboloidPoints(false, true);
     EXPECT_EQ(hyperboloid.energies, energies);
     EXPECT_EQ(hyperboloid.vertices, points);
-    EXPECT_TRUE(std::all_of(hyperboloid.colors.begin(), hyperboloid.colors.end(),
-                            [](float channel) { return channel == 0.25F; }));
+    const FloatTriple grey{0.25F, 0.25F, 0.25F};
+    EXPECT_EQ(hyperboloid.colors, std::vector<FloatTriple>(64 * 64, grey));
     float rgb[3];
     hyperboloid.computeColorForPoint(0.5F, rgb);
     EXPECT_EQ(rgb[1], 0.25F);
 }
 
 TEST(HyperboloidColors, RecolouringReadsTheStoredEnergies) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.energies[5] = 0.5F;
     hyperboloid.generateHyperboloidPoints(false, true);
     EXPECT_FLOAT_EQ(hyperboloid.getColor(5, 0), 0.1F);
@@ -179,7 +177,7 @@ TEST(HyperboloidColors, RecolouringReadsTheStoredEnergies) {
 }
 
 TEST(HyperboloidColors, TheColourOfAPositionFollowsItsOwnRule) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     float rgb[3];
     hyperboloid.computeColorForPoint({1.5F, -2.0F, 0.7F}, rgb);
     const float sums[] = {-2.0F * 1.5F + 0.7F * -2.0F, 0.7F * 1.5F + -2.0F * 0.7F,

@@ -1,3 +1,4 @@
+#include "hyperboloid/HyperboloidNames.h"
 #include "tests/support/LinkedFrames.h"
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
@@ -10,6 +11,7 @@
 #include <Inventor/nodes/SoSphere.h>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 using Names = std::vector<std::string>;
 
@@ -70,7 +72,8 @@ void makeGrey(HyperboloidFrame& frame) {
 
 /** The colour of a vertex in the scene, rather than in the model's table. */
 SbColor shownColor(const HyperboloidFrame& frame, int index) {
-    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(frame), "Hyperboloid");
+    const SoSeparator* surface =
+        SceneReader::childNamed(drawStyleBranch(frame), HyperboloidNames::surface);
     return SceneReader::child<SoMaterial>(*surface, 0)->diffuseColor[index];
 }
 
@@ -117,12 +120,12 @@ TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAnd
     HyperboloidFrame& frame = opened.hyperboloid(Hyperboloid::USPACE);
     frame.DrawAxis(2, 0.1);
     const std::string sphere = nameOf(opened.firstHelix());
-    ReplacementCounter surfaces(drawStyleBranch(frame), "Hyperboloid");
+    ReplacementCounter surfaces(drawStyleBranch(frame), HyperboloidNames::surface);
     frame.reDraw(false, false);
     Names names = SceneReader::childNames(phongBranch(frame));
     names.erase(names.begin());
     EXPECT_EQ(names, (Names{sphere, "Axis", "U3Axis", "Center", "uHat", "U3ConstAxis"}));
-    EXPECT_EQ(SceneReader::countNamed(drawStyleBranch(frame), "Hyperboloid"), 1);
+    EXPECT_EQ(SceneReader::countNamed(drawStyleBranch(frame), HyperboloidNames::surface), 1);
     EXPECT_EQ(surfaces.take(), 1);
 }
 
@@ -141,7 +144,7 @@ TEST(HyperboloidFrameTest, BrothersAreDressedInTheColoursOfUAndOnlyTheyAreDrawnA
     makeGrey(u.frame);
     for (const int space : {Hyperboloid::USPACE, Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
         LoneFrame lone(space);
-        ReplacementCounter surfaces(drawStyleBranch(lone.frame), "Hyperboloid");
+        ReplacementCounter surfaces(drawStyleBranch(lone.frame), HyperboloidNames::surface);
         ASSERT_NE(color(lone.frame, 100), grey);
         lone.frame.setBrother(&u.frame, nullptr, nullptr);
         const bool isU = space == Hyperboloid::USPACE;
@@ -163,6 +166,39 @@ TEST(HyperboloidFrameTest, ChangingColoursCopiesThemIntoXAndMOnly) {
         u.frame.setSaturation(100, true);
         ASSERT_NE(color(u.frame, 100), grey);
     }
+}
+
+TEST(HyperboloidFrameTest, ColoursAreCopiedOnceTheGridsAgree) {
+    HyperboloidParameters onNewGrid;
+    onNewGrid.horizontalPrecision = 7;
+    onNewGrid.verticalPrecision = 11;
+    for (const int space : {Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
+        LoneFrame u(Hyperboloid::USPACE);
+        LoneFrame lone(space);
+        lone.frame.setBrother(&u.frame, nullptr, nullptr);
+        const SbColor before = color(lone.frame, 38);
+        u.frame.setParameters(onNewGrid);
+        u.frame.reDraw(true, true);
+        const SbColor after = color(u.frame, 38);
+        ASSERT_NE(after, before);
+        lone.frame.changeColors();
+        EXPECT_EQ(color(lone.frame, 38), before) << "vertex 38 is elsewhere on the other grid";
+        lone.frame.setParameters(onNewGrid);
+        lone.frame.reDraw(true, true);
+        EXPECT_EQ(color(lone.frame, 38), after);
+        EXPECT_EQ(shownColor(lone.frame, 38), after);
+    }
+}
+
+TEST(HyperboloidFrameTest, RedrawOnAnotherGridNeedsNewTables) {
+    LoneFrame lone(Hyperboloid::XSPACE);
+    HyperboloidParameters onNewGrid;
+    onNewGrid.horizontalPrecision = 7;
+    onNewGrid.verticalPrecision = 11;
+    lone.frame.setParameters(onNewGrid);
+    EXPECT_THROW(lone.frame.reDraw(false, true), std::logic_error);
+    EXPECT_THROW(lone.frame.reDraw(false, false), std::logic_error);
+    EXPECT_NO_THROW(lone.frame.reDraw(true, false));
 }
 
 TEST(HyperboloidFrameTest, RedrawComputesPointsAndColoursEachWhenAsked) {
@@ -191,7 +227,7 @@ TEST(HyperboloidFrameTest, RedrawWithNewTablesTakesOverTheNewGrid) {
     lone.frame.set_parameters(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, 20, 10, 0.3, 7, 7, 0.02, 0.03);
     lone.frame.reDraw(true, false);
     const SoSeparator* surface =
-        SceneReader::childNamed(drawStyleBranch(lone.frame), "Hyperboloid");
+        SceneReader::childNamed(drawStyleBranch(lone.frame), HyperboloidNames::surface);
     EXPECT_EQ(SceneReader::child<SoCoordinate3>(*surface, 2)->point.getNum(), 20 * 10);
 }
 
@@ -221,8 +257,9 @@ TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
 TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
     const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
-    const SoSeparator* surface = SceneReader::childNamed(drawStyleBranch(u), "Hyperboloid");
-    ReplacementCounter surfaces(drawStyleBranch(u), "Hyperboloid");
+    const SoSeparator* surface =
+        SceneReader::childNamed(drawStyleBranch(u), HyperboloidNames::surface);
+    ReplacementCounter surfaces(drawStyleBranch(u), HyperboloidNames::surface);
     u.setTransparency(50, false);
     EXPECT_EQ(SceneReader::child<SoMaterial>(*surface, 0)->transparency[0], 0.5F);
     EXPECT_EQ(u.getTransparency(), 0.5);
@@ -243,7 +280,7 @@ TEST(HyperboloidFrameTest, SphereHasTheVertexsColourAndPlaceAndTheSharedShape) {
     const auto* shape = SceneReader::child<SoGroup>(*sphere, 2);
     ASSERT_NE(shape, nullptr);
     EXPECT_EQ(SceneReader::child<SoSphere>(*shape, 0)->radius.getValue(), 0.3F);
-    const SoSeparator* center = SceneReader::childNamed(phongBranch(m), "Center");
+    const SoSeparator* center = SceneReader::childNamed(phongBranch(m), HyperboloidNames::center);
     EXPECT_EQ(center->getChild(2), shape);
     m.killSphere("Helix_test");
     EXPECT_EQ(SceneReader::childNamed(phongBranch(m), "Helix_test"), nullptr);
@@ -330,7 +367,7 @@ TEST(HyperboloidFrameTest, AxisGlyphIsAClosedTubeWithATip) {
     const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
     u.DrawAxis(2, 0.5);
-    const SoSeparator* axis = SceneReader::childNamed(phongBranch(u), "Axis");
+    const SoSeparator* axis = SceneReader::childNamed(phongBranch(u), HyperboloidNames::axis);
     ASSERT_NE(axis, nullptr);
     ASSERT_EQ(axis->getNumChildren(), 5);
     const auto* material = SceneReader::child<SoMaterial>(*axis, 0);

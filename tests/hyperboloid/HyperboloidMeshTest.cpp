@@ -193,6 +193,47 @@ TEST(HyperboloidMesh, VerticesThatAreNotFiniteAreNeverHitAndHideNoOther) {
     EXPECT_GT(compared, 500);
 }
 
+TEST(HyperboloidMesh, APatchWithoutAnyFiniteVertexIsNeverHitAndHidesNoOther) {
+    const MeshOf spoilt(Hyperboloid::USPACE, 64, 64);
+    const MeshOf whole(Hyperboloid::USPACE, 64, 64);
+    auto* coordinates = dynamic_cast<SoCoordinate3*>(spoilt.quick->getChild(2));
+    const float notANumber = std::numeric_limits<float>::quiet_NaN();
+    // Larger than a patch and two more: one patch at least has no finite vertex.
+    const auto isSpoilt = [](int vertex) {
+        const int column = vertex / 64;
+        const int row = vertex % 64;
+        return column >= 14 && column < 50 && row >= 14 && row < 50;
+    };
+    for (int k = 0; k < 64 * 64; ++k) {
+        if (isSpoilt(k)) {
+            coordinates->point.set1Value(k, SbVec3f(notANumber, notANumber, notANumber));
+        }
+    }
+    int throughTheHole = 0;
+    int compared = 0;
+    for (int k = 1; k < 64 * 64; k += 7) {
+        const SbVec3f from(11, -7, 13);
+        const SbVec3f direction = whole.vertex(k) * 0.99F - from;
+        const std::optional<Picked> expected = pick(*whole.plain, from, direction);
+        const std::optional<Picked> found = pick(*spoilt.quick, from, direction);
+        if (found) {
+            EXPECT_FALSE(isSpoilt(found->materialIndex));
+            EXPECT_TRUE(std::isfinite(found->point[0] + found->point[1] + found->point[2]));
+        }
+        if (expected &&
+            std::none_of(expected->corners.begin(), expected->corners.end(), isSpoilt)) {
+            ++compared;
+            ASSERT_TRUE(found.has_value());
+            EXPECT_EQ(found->point, expected->point);
+            EXPECT_EQ(found->materialIndex, expected->materialIndex);
+        } else if (expected) {
+            ++throughTheHole;
+        }
+    }
+    EXPECT_GT(compared, 100);
+    EXPECT_GT(throughTheHole, 100);
+}
+
 TEST(HyperboloidMesh, SurfaceWithoutAnyFiniteVertexIsNeverHit) {
     const MeshOf mesh(Hyperboloid::USPACE, 20, 20, 1.0);
     EXPECT_TRUE(std::isnan(mesh.model.getVertex(0, 0)));

@@ -1,258 +1,153 @@
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "hyperboloid/HyperboloidParameters.h"
 
-#include <Inventor/nodes/SoGroup.h>
-#include <Inventor/nodes/SoMaterial.h>
-#include <Inventor/nodes/SoSphere.h>
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
+#include <set>
 #include <string>
-#include <type_traits>
+#include <vector>
 
 namespace {
 
-using Triplet = std::array<double, 3>;
+using Set = HyperboloidParameters;
 
-const std::string lambdaMessage = "Error : bd=0 or ac+bd=0\n";
-const std::string shiftMessage = "Error :  bd=0\n";
+/** What a user meets of one parameter. */
+struct Expected {
+    const char* name;
+    HyperboloidParameter::Member member;
+    double startValue;
+    double minimum;
+    double maximum;
+    int decimals;
+    double step;
+};
 
-/** What setting the parameters writes to the standard error stream. */
-std::string messagesOf(OpenHyperboloid& hyperboloid, const KAndUHat& parameters) {
-    testing::internal::CaptureStderr();
-    hyperboloid.setGrid(parameters, 4, 4);
-    return testing::internal::GetCapturedStderr();
+const std::vector<Expected> everyParameter{
+    {"K1", &Set::K1, 1.0, 0.01, 100.0, 2, 0.01},
+    {"K2", &Set::K2, 1.5, 0.01, 100.0, 2, 0.01},
+    {"K3", &Set::K3, 1.0, 0.0, 100.0, 2, 0.01},
+    {"K13", &Set::K13, 0.5, -100.0, 100.0, 2, 0.01},
+    {"K23", &Set::K23, 0.5, -100.0, 100.0, 2, 0.01},
+    {"Uhat1", &Set::U1, 1.0, -100.0, 100.0, 2, 0.01},
+    {"Uhat2", &Set::U2, 0.0, -100.0, 100.0, 2, 0.01},
+    {"Uhat3", &Set::U3, 0.0, -100.0, 100.0, 2, 0.01},
+    {"columns", &Set::horizontalPrecision, 64.0, 5.0, 500.0, 0, 1.0},
+    {"rows", &Set::verticalPrecision, 64.0, 5.0, 500.0, 0, 1.0},
+    {"point-radius", &Set::pointRadius, 0.3, 0.0, 10.0, 2, 0.01},
+    {"u3const-range", &Set::u3constRange, 7.0, 0.0, 100.0, 2, 0.01},
+    {"u3axis-range", &Set::u3axisRange, 7.0, 0.0, 100.0, 2, 0.01},
+    {"u3const-radius", &Set::u3constRadius, 0.02, 0.0, 100.0, 2, 0.01},
+    {"u3axis-radius", &Set::u3axisRadius, 0.03, 0.0, 100.0, 2, 0.01},
+};
+
+/** A set whose conditions hang on these five alone. */
+HyperboloidCondition brokenBy(double K1, double K2, double K3, double K13, double K23) {
+    return HyperboloidParameters{K1, K2, K3, K13, K23}.brokenCondition();
 }
 
-std::string messagesOfConstruction(const KAndUHat& parameters) {
-    testing::internal::CaptureStderr();
-    const OpenHyperboloid hyperboloid(parameters, Hyperboloid::USPACE);
-    return testing::internal::GetCapturedStderr();
-}
-
-TEST(HyperboloidParameters, SpacesHaveFixedIndices) {
-    EXPECT_EQ(Hyperboloid::USPACE, 0);
-    EXPECT_EQ(Hyperboloid::XSPACE, 1);
-    EXPECT_EQ(Hyperboloid::MSPACE, 2);
-    EXPECT_FALSE(std::is_polymorphic_v<Hyperboloid>);
-}
-
-TEST(HyperboloidParameters, ANewHyperboloidHasItsDefaults) {
-    const OpenHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
-    EXPECT_EQ(hyperboloid.WichSpace(), Hyperboloid::MSPACE);
-    EXPECT_EQ(hyperboloid.tRange, 4.0F);
-    EXPECT_EQ(hyperboloid.getNumCol(), 64U);
-    EXPECT_EQ(hyperboloid.getNumRow(), 64U);
-    EXPECT_EQ(hyperboloid.getNumVertices(), 64U * 64U);
-    EXPECT_EQ(hyperboloid.getSaturation(), 0.8);
-    EXPECT_EQ(hyperboloid.getLightness(), 0.5);
-    EXPECT_EQ(hyperboloid.getTransparency(), 0.0);
-    EXPECT_EQ(hyperboloid.getSpR(), 0.3);
-    EXPECT_EQ(hyperboloid.getu3const_range(), 7.0);
-    EXPECT_EQ(hyperboloid.getu3axis_range(), 7.0);
-    EXPECT_EQ(hyperboloid.getu3const_radius(), 0.02);
-    EXPECT_EQ(hyperboloid.getu3axis_radius(), 0.03);
-    EXPECT_EQ(hyperboloid.vertices.size(), 3U * 64U * 64U);
-    EXPECT_EQ(hyperboloid.colors.size(), 3U * 64U * 64U);
-    EXPECT_EQ(hyperboloid.energies.size(), 64U * 64U);
-}
-
-TEST(HyperboloidParameters, StartUpParametersGiveExactNumbers) {
-    const OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    EXPECT_EQ(hyperboloid.getPNAS('a'), -2.0F);
-    EXPECT_EQ(hyperboloid.getPNAS('b'), 1.0F);
-    EXPECT_EQ(hyperboloid.getPNAS('c'), 0.0F);
-    EXPECT_EQ(hyperboloid.getPNAS('d'), -1.0F);
-    EXPECT_TRUE(hyperboloid.swapAxes);
-    EXPECT_EQ(coordinates(hyperboloid.lambda), (Triplet{0.25, 0.25, 1.0}));
-    EXPECT_EQ(coordinates(hyperboloid.shift), (Triplet{2.0, 2.0, -1.0}));
-    EXPECT_EQ(hyperboloid.semiAxis, (std::array<float, 3>{2.0F, 2.0F, 1.0F}));
-    const auto rotation = entries(hyperboloid.rotationMatrix);
-    EXPECT_EQ(rotation[0], (Triplet{1.0, 1.0, 0.0}));
-    EXPECT_EQ(rotation[1], (Triplet{1.0, -1.0, -2.0}));
-    EXPECT_EQ(rotation[2], (Triplet{0.0, 0.0, 1.0}));
-}
-
-TEST(HyperboloidParameters, OppositeSignsOfK13AndK23KeepTheAxes) {
-    const OpenHyperboloid hyperboloid(unswapped, Hyperboloid::USPACE);
-    EXPECT_FALSE(hyperboloid.swapAxes);
-    EXPECT_EQ(hyperboloid.getPNAS('d'), 1.0F);
-    EXPECT_EQ(coordinates(hyperboloid.lambda), (Triplet{0.25, 0.25, 1.0}));
-    EXPECT_EQ(coordinates(hyperboloid.shift), (Triplet{2.0, 2.0, -1.0}));
-}
-
-TEST(HyperboloidParameters, EveryParameterReachesItsGetter) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    hyperboloid.set_parameters(1.1, 2.2, 3.3, 4.4, 5.5, 6.6, 7.7, 8.8, 9, 10, 0.11, 0.12, 0.13,
-                               0.14, 0.15);
-    const float expectedK[] = {1.1F, 2.2F, 3.3F, 4.4F, 5.5F};
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(hyperboloid.getK(i), expectedK[i]);
-    }
-    EXPECT_EQ(hyperboloid.getU(0), 6.6F);
-    EXPECT_EQ(hyperboloid.getU(1), 7.7F);
-    EXPECT_EQ(hyperboloid.getU(2), 8.8F);
-    EXPECT_EQ(coordinates(hyperboloid.U), (Triplet{6.6, 7.7, 8.8}));
-    EXPECT_EQ(hyperboloid.getPrec(0), 9.0);
-    EXPECT_EQ(hyperboloid.getPrec(1), 10.0);
-    EXPECT_EQ(hyperboloid.getNumCol(), 9U);
-    EXPECT_EQ(hyperboloid.getNumRow(), 10U);
-    EXPECT_EQ(hyperboloid.getNumVertices(), 90U);
-    EXPECT_EQ(hyperboloid.getSpR(), 0.11);
-    EXPECT_EQ(hyperboloid.getu3const_range(), 0.12);
-    EXPECT_EQ(hyperboloid.getu3axis_range(), 0.13);
-    EXPECT_EQ(hyperboloid.getu3const_radius(), 0.14);
-    EXPECT_EQ(hyperboloid.getu3axis_radius(), 0.15);
-}
-
-TEST(HyperboloidParameters, KMatrixKeepsTheDoublesThatKNarrows) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    hyperboloid.set_k_uHat(1.1, 2.2, 3.3, 4.4, 5.5, 6.6, 7.7, 8.8);
-    const auto K = entries(hyperboloid.KMatrix);
-    EXPECT_EQ(K[0], (Triplet{1.1, 0.0, 4.4}));
-    EXPECT_EQ(K[1], (Triplet{0.0, 2.2, 5.5}));
-    EXPECT_EQ(K[2], (Triplet{4.4, 5.5, 3.3}));
-    EXPECT_EQ(hyperboloid.K, (std::array<float, 5>{1.1F, 2.2F, 3.3F, 4.4F, 5.5F}));
-    EXPECT_EQ(hyperboloid.a, -2.0F) << "the derived numbers wait for set_PNAS_var";
-    hyperboloid.set_PNAS_var();
-    EXPECT_EQ(hyperboloid.b, 4.4F / (2.2F - 1.1F));
-}
-
-TEST(HyperboloidParameters, ParametersLeaveTablesAndSurfaceAlone) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    const std::vector<float> before = hyperboloid.vertices;
-    hyperboloid.setGrid(unswapped, 100, 200);
-    EXPECT_EQ(hyperboloid.vertices, before);
-    EXPECT_EQ(hyperboloid.energies.size(), 64U * 64U);
-}
-
-TEST(HyperboloidParameters, OddGetterArgumentsHaveTheirFixedAnswers) {
-    const OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    EXPECT_EQ(hyperboloid.getPNAS('e'), 0.0F);
-    EXPECT_EQ(hyperboloid.getPNAS('A'), 0.0F);
-    EXPECT_EQ(hyperboloid.getPNAS('\0'), 0.0F);
-    EXPECT_EQ(hyperboloid.getPrec(2), -1.0);
-    EXPECT_EQ(hyperboloid.getPrec(-1), -1.0);
-    try {
-        static_cast<void>(hyperboloid.getU(3));
-        FAIL() << "component 3 does not exist";
-    } catch (const std::string& message) {
-        EXPECT_EQ(message, "Erreur surcharge []: dimension depassee.");
+TEST(HyperboloidParameters, AreDeclaredWithNameRangeStepAndStartValue) {
+    const Set startValues;
+    ASSERT_EQ(Set::all().size(), everyParameter.size());
+    for (std::size_t i = 0; i < everyParameter.size(); ++i) {
+        const Expected& expected = everyParameter[i];
+        const HyperboloidParameter& parameter = Set::all()[i];
+        EXPECT_EQ(parameter.name, expected.name);
+        EXPECT_TRUE(parameter.member == expected.member) << expected.name;
+        EXPECT_EQ(parameter.valueIn(startValues), expected.startValue) << expected.name;
+        EXPECT_EQ(parameter.minimum, expected.minimum) << expected.name;
+        EXPECT_EQ(parameter.maximum, expected.maximum) << expected.name;
+        EXPECT_EQ(parameter.decimals, expected.decimals) << expected.name;
+        EXPECT_EQ(parameter.step, expected.step) << expected.name;
     }
 }
 
-TEST(HyperboloidParameters, NegativeGridSizesCountAsNone) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    hyperboloid.regenerate(startUp, -1, -5);
-    EXPECT_EQ(hyperboloid.getNumCol(), 0U);
-    EXPECT_EQ(hyperboloid.getNumRow(), 0U);
-    EXPECT_TRUE(hyperboloid.vertices.empty());
-}
-
-TEST(HyperboloidParameters, RegularParametersWriteNoMessage) {
-    EXPECT_EQ(messagesOfConstruction(startUp), "");
-    EXPECT_EQ(messagesOfConstruction(unswapped), "");
-}
-
-TEST(HyperboloidParameters, AMissingK13WritesTheLambdaMessageThenTheShiftMessage) {
-    EXPECT_EQ(messagesOfConstruction(withoutK13), lambdaMessage + shiftMessage);
-}
-
-TEST(HyperboloidParameters, AMissingK23WritesTheLambdaMessageThenTheShiftMessage) {
-    EXPECT_EQ(messagesOfConstruction(withoutK23), lambdaMessage + shiftMessage);
-}
-
-TEST(HyperboloidParameters, AVanishingSigmaWritesTheLambdaMessageOnly) {
-    EXPECT_EQ(messagesOfConstruction(withoutUHat), lambdaMessage);
-}
-
-TEST(HyperboloidParameters, EqualK1AndK2WriteNoMessage) {
-    EXPECT_EQ(messagesOfConstruction({1.0, 1.0, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0}), "");
-    EXPECT_EQ(messagesOfConstruction({1.0, 1.0, 1.0, 0.0, 0.0, 1.0, 0.0, 0.0}), "");
-}
-
-TEST(HyperboloidParameters, VanishingBdFallsBackToAUnitSurfaceAtTheOrigin) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    messagesOf(hyperboloid, withoutK13);
-    EXPECT_EQ(coordinates(hyperboloid.lambda), (Triplet{1.0, 1.0, 1.0}));
-    EXPECT_EQ(coordinates(hyperboloid.shift), (Triplet{0.0, 0.0, 0.0}));
-    EXPECT_EQ(hyperboloid.semiAxis, (std::array<float, 3>{1.0F, 1.0F, 1.0F}));
-    hyperboloid.init_tables();
-    hyperboloid.generateHyperboloidPoints(true, true);
-    for (const float coordinate : hyperboloid.vertices) {
-        EXPECT_TRUE(std::isfinite(coordinate));
+TEST(HyperboloidParameters, StartWithValuesThatAreInRangeAndAccepted) {
+    EXPECT_EQ(Set().brokenCondition(), HyperboloidCondition::none);
+    for (const HyperboloidParameter& parameter : Set::all()) {
+        EXPECT_GE(parameter.valueIn(Set()), parameter.minimum) << parameter.name;
+        EXPECT_LE(parameter.valueIn(Set()), parameter.maximum) << parameter.name;
     }
 }
 
-TEST(HyperboloidParameters, VanishingSigmaKeepsTheComputedShift) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    const std::string messages =
-        messagesOf(hyperboloid, {1.0, 1.5, 1.0, 0.5, 0.5, 1.0, -2.0 / 3.0, 0.0});
-    ASSERT_EQ(hyperboloid.a, -2.0F);
-    ASSERT_EQ(hyperboloid.c, -2.0F);
-    EXPECT_EQ(messages, lambdaMessage);
-    EXPECT_EQ(coordinates(hyperboloid.lambda), (Triplet{1.0, 1.0, 1.0}));
-    EXPECT_EQ(coordinates(hyperboloid.shift), (Triplet{4.0, 0.0, 0.0}));
-}
-
-TEST(HyperboloidParameters, DegenerateParametersKeepTheEarlierAxes) {
-    testing::internal::CaptureStderr();
-    const OpenHyperboloid fresh(withoutK13, Hyperboloid::USPACE);
-    EXPECT_FALSE(fresh.swapAxes);
-
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    hyperboloid.setGrid(withoutK13, 4, 4);
-    EXPECT_TRUE(hyperboloid.swapAxes);
-    hyperboloid.setGrid(unswapped, 4, 4);
-    hyperboloid.setGrid(withoutUHat, 4, 4);
-    EXPECT_FALSE(hyperboloid.swapAxes);
-    testing::internal::GetCapturedStderr();
-}
-
-TEST(HyperboloidParameters, CoefficientOperationsTakeTheirArgumentsNotTheFields) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    EXPECT_EQ(coordinates(hyperboloid.get_lambda_set_coeff(-2.0F, 1.0F, 0.0F, 1.0F)),
-              (Triplet{0.25, 0.25, 1.0}));
-    EXPECT_FALSE(hyperboloid.swapAxes);
-    EXPECT_EQ(coordinates(hyperboloid.get_shift(1.0F, 1.0F, 3.0F, 1.0F)),
-              (Triplet{-4.0, 2.0, 2.0}));
-    EXPECT_EQ(entries(hyperboloid.get_rotationMatrix(0.25F, 0.5F))[0], (Triplet{1.0, 1.0, -0.75}));
-
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(coordinates(hyperboloid.get_lambda_set_coeff(1.0F, 0.0F, 1.0F, 1.0F)),
-              (Triplet{1.0, 1.0, 1.0}));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), lambdaMessage);
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(coordinates(hyperboloid.get_shift(1.0F, 0.0F, 1.0F, 1.0F)), (Triplet{0.0, 0.0, 0.0}));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), shiftMessage);
-}
-
-TEST(HyperboloidParameters, ThePointMarkersShareOneSphereThatIsResized) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    const SoGroup* group = hyperboloid.sphereGroup.get();
-    ASSERT_EQ(group->getNumChildren(), 1);
-    ASSERT_TRUE(group->getChild(0)->isOfType(SoSphere::getClassTypeId()));
-    EXPECT_EQ(static_cast<SoSphere*>(group->getChild(0))->radius.getValue(), 0.3F);
-
-    hyperboloid.createMySphere(1.5F);
-    EXPECT_EQ(hyperboloid.sphereGroup.get(), group);
-    ASSERT_EQ(group->getNumChildren(), 1);
-    EXPECT_EQ(static_cast<SoSphere*>(group->getChild(0))->radius.getValue(), 1.5F);
-}
-
-TEST(HyperboloidParameters, NodesOutliveTheModelAsLongAsAnotherOwnerHoldsThem) {
-    NodePointer<SoMaterial> material;
-    NodePointer<SoGroup> sphereGroup;
-    {
-        const OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-        material = hyperboloid.material;
-        sphereGroup = hyperboloid.sphereGroup;
-        EXPECT_EQ(material->getRefCount(), 2);
-        EXPECT_EQ(sphereGroup->getRefCount(), 2);
+TEST(HyperboloidParameters, AreFoundByTheirMembers) {
+    for (const Expected& expected : everyParameter) {
+        EXPECT_EQ(HyperboloidParameter::of(expected.member).name, expected.name);
     }
-    EXPECT_EQ(material->getRefCount(), 1);
-    EXPECT_EQ(sphereGroup->getRefCount(), 1);
+}
+
+TEST(HyperboloidParameters, EachReadsAndWritesItsOwnMember) {
+    std::set<std::string> names;
+    for (const HyperboloidParameter& written : Set::all()) {
+        names.insert(std::string(written.name));
+        Set set;
+        written.setValueIn(set, 41.0);
+        for (const HyperboloidParameter& read : Set::all()) {
+            const bool isWritten = read.name == written.name;
+            EXPECT_EQ(read.valueIn(set), isWritten ? 41.0 : read.valueIn(Set()))
+                << read.name << " after " << written.name;
+        }
+    }
+    EXPECT_EQ(names.size(), 15U);
+}
+
+TEST(HyperboloidParameters, WholeNumbersAreTruncatedAndOthersKeptToTheLastBit) {
+    Set set;
+    HyperboloidParameter::of(&Set::horizontalPrecision).setValueIn(set, 17.9);
+    EXPECT_EQ(set.horizontalPrecision, 17);
+    HyperboloidParameter::of(&Set::K13).setValueIn(set, -0.7310585786300049);
+    EXPECT_EQ(set.K13, -0.7310585786300049);
+}
+
+TEST(HyperboloidParameters, BreakTheQuadricConditionWhenTheSumReachesK3) {
+    // 1.1^2 / 1 + 0.1^2 / 4 is above 1, and 0.1^2 / 1 + 1.1^2 / 4 below.
+    EXPECT_EQ(brokenBy(1.0, 4.0, 1.0, 1.1, 0.1), HyperboloidCondition::quadric);
+    EXPECT_EQ(brokenBy(1.0, 4.0, 1.0, 0.1, 1.1), HyperboloidCondition::none);
+    // 0.5^2 / 1 + 1.5^2 / 3 is exactly 1.
+    EXPECT_EQ(brokenBy(1.0, 3.0, 1.0, 0.5, 1.5), HyperboloidCondition::quadric);
+    EXPECT_EQ(brokenBy(1.0, 3.0, 1.0000001, 0.5, 1.5), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.0, 3.0, 1.0, -0.5, -1.5), HyperboloidCondition::quadric);
+}
+
+TEST(HyperboloidParameters, BreakTheOrderConditionWhenK1IsAboveK2) {
+    EXPECT_EQ(brokenBy(1.37, 1.36, 1.0, 0.5, 0.5), HyperboloidCondition::order);
+    EXPECT_EQ(brokenBy(1.37, 1.37, 1.0, 0.5, 0.5), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.36, 1.37, 1.0, 0.5, 0.5), HyperboloidCondition::none);
+}
+
+TEST(HyperboloidParameters, ReportTheQuadricConditionBeforeTheOrder) {
+    EXPECT_EQ(brokenBy(4.0, 1.0, 1.0, 0.1, 1.1), HyperboloidCondition::quadric);
+    EXPECT_EQ(brokenBy(4.0, 1.0, 1.0, 1.1, 0.1), HyperboloidCondition::order);
+}
+
+TEST(HyperboloidParameters, DivideByZeroOnTheRefusingSide) {
+    EXPECT_EQ(brokenBy(0.0, 4.0, 100.0, 0.1, 0.1), HyperboloidCondition::quadric);
+    EXPECT_EQ(brokenBy(1.0, 4.0, 0.0, 0.0, 0.0), HyperboloidCondition::quadric);
+}
+
+TEST(HyperboloidParameters, ThatAreNotNumbersBreakNoCondition) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(brokenBy(nan, 4.0, 1.0, 1.1, 0.1), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.0, nan, 1.0, 1.1, 0.1), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.0, 4.0, nan, 1.1, 0.1), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.0, 4.0, 1.0, nan, 0.1), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(1.0, 4.0, 1.0, 1.1, nan), HyperboloidCondition::none);
+    EXPECT_EQ(brokenBy(4.0, 1.0, nan, 1.1, 0.1), HyperboloidCondition::order);
+}
+
+TEST(HyperboloidParameters, OfAModelAreItsOwnWithKAndUHatAsFloats) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    const Set given{1.17, 2.23, 3.31,  0.41, -0.53, 0.67, -0.79, 0.83,
+                    9,    14,   0.113, 5.27, 6.29,  0.37, 0.43};
+    hyperboloid.setParameters(given);
+    const Set read = Set::of(hyperboloid);
+    for (std::size_t i = 0; i < Set::count; ++i) {
+        const HyperboloidParameter& parameter = Set::all()[i];
+        const double value = parameter.valueIn(given);
+        EXPECT_EQ(parameter.valueIn(read), i < 8 ? double{static_cast<float>(value)} : value)
+            << parameter.name;
+    }
 }
 
 } // namespace

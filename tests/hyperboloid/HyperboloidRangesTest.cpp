@@ -1,4 +1,5 @@
 #include "tests/hyperboloid/DrawnParameters.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 #include "tests/hyperboloid/SceneReading.h"
 
 #include <Inventor/SbBox3f.h>
@@ -90,28 +91,25 @@ public:
                   {startUp, Hyperboloid::XSPACE},
                   {startUp, Hyperboloid::MSPACE}}} {
         const ErrorsKept quiet;
-        const KAndUHat& p = drawn.p;
-        for (OpenHyperboloid& model : models) {
+        for (ExposedHyperboloid& model : models) {
             model.swapAxes = drawn.previouslySwapped;
             model.saturation = drawn.saturation;
             model.lightness = drawn.lightness;
-            model.set_parameters(p.K1, p.K2, p.K3, p.K13, p.K23, p.U1, p.U2, p.U3, drawn.columns,
-                                 drawn.rows, 0.3, drawn.constRange, drawn.axisRange,
-                                 drawn.constRadius, drawn.axisRadius);
+            model.setParameters(drawn.p);
             model.init_tables();
             model.generateHyperboloidPoints(true, true);
         }
     }
 
-    [[nodiscard]] int count() const { return drawn.columns * drawn.rows; }
+    [[nodiscard]] int count() const { return static_cast<int>(models[0].getNumVertices()); }
     [[nodiscard]] Point vertex(int space, int k) const {
-        const OpenHyperboloid& model = models[static_cast<std::size_t>(space)];
+        const ExposedHyperboloid& model = models[static_cast<std::size_t>(space)];
         return {model.getVertex(k, 0), model.getVertex(k, 1), model.getVertex(k, 2)};
     }
-    OpenHyperboloid& u() { return models[Hyperboloid::USPACE]; }
+    ExposedHyperboloid& u() { return models[Hyperboloid::USPACE]; }
 
     const DrawnParameters drawn;
-    std::array<OpenHyperboloid, 3> models;
+    std::array<ExposedHyperboloid, 3> models;
 };
 
 /** The largest share of its bound that a difference took up; a NaN takes up more than all. */
@@ -136,7 +134,7 @@ private:
 
 /** a, b, c, d of a model, in double from the model's floats. */
 struct Scalars {
-    explicit Scalars(const OpenHyperboloid& model)
+    explicit Scalars(const ExposedHyperboloid& model)
         : a(model.a)
         , b(model.b)
         , c(model.c)
@@ -179,7 +177,7 @@ enum Kind {
 };
 
 Kind kindOf(const Surfaces& surfaces) {
-    const OpenHyperboloid& model = surfaces.models[0];
+    const ExposedHyperboloid& model = surfaces.models[0];
     if (surfaces.drawn.p.K1 == surfaces.drawn.p.K2) {
         return roundKind;
     }
@@ -226,7 +224,7 @@ bool allVertices(const Surfaces& surfaces, Predicate predicate) {
  * is the conditioning of the quotient. The quotient adds the roundings of numerator and result.
  */
 void expectScalarsFollowFromParameters(const Surfaces& surfaces) {
-    const KAndUHat& p = surfaces.drawn.p;
+    const HyperboloidParameters& p = surfaces.drawn.p;
     const double difference = p.K1 - p.K2;
     const double bound = 2.0 * floatStep * (1.0 + (p.K1 + p.K2) / std::fabs(difference));
     const Scalars scalars(surfaces.models[0]);
@@ -332,7 +330,7 @@ public:
     }
 
 private:
-    const KAndUHat p;
+    const HyperboloidParameters p;
     const Scalars scalars;
     Sum shift{};
 };
@@ -384,15 +382,16 @@ void expectEnergiesOfFiniteSurface(const std::vector<float>& energies) {
 }
 
 /** Colours are colours whatever the energies; without an energy a vertex is of the darkest grey. */
-void expectColorsOfEnergies(const OpenHyperboloid& model) {
-    EXPECT_TRUE(std::all_of(model.colors.begin(), model.colors.end(), isShare));
+void expectColorsOfEnergies(const ExposedHyperboloid& model) {
+    const std::vector<float> channels = floatsOf(model.colors);
+    EXPECT_TRUE(std::all_of(channels.begin(), channels.end(), isShare));
     const double l = model.lightness;
     const double s = model.saturation;
     const double chroma = l < 0.5 ? l * s : s - l * s;
     int wrong = 0;
     for (std::size_t k = 0; k < model.energies.size(); ++k) {
         for (std::size_t i = 0; std::isnan(model.energies[k]) && i < 3; ++i) {
-            wrong += std::fabs(model.colors[3 * k + i] - (l - chroma)) <= floatStep ? 0 : 1;
+            wrong += std::fabs(channels[3 * k + i] - (l - chroma)) <= floatStep ? 0 : 1;
         }
     }
     EXPECT_EQ(wrong, 0) << "channels of vertices without an energy";
@@ -432,7 +431,7 @@ SbBox3f boxOf(SoSeparator* drawing) {
 }
 
 /** A ray hits vertices that there are, and never one that is nowhere. */
-void expectPickOfFiniteVertices(SoSeparator* drawing, const OpenHyperboloid& model, int count) {
+void expectPickOfFiniteVertices(SoSeparator* drawing, const ExposedHyperboloid& model, int count) {
     SoRayPickAction pick(SbViewportRegion(100, 100));
     pick.setRay(SbVec3f(0.4F, 0.3F, 100.0F), SbVec3f(0.0F, 0.1F, -1.0F));
     pick.apply(drawing);
@@ -452,7 +451,7 @@ void expectPickOfFiniteVertices(SoSeparator* drawing, const OpenHyperboloid& mod
 }
 
 /** The box holds all finite vertices, and is empty when there are none. */
-void expectBoxOfFiniteVertices(const SbBox3f& box, const OpenHyperboloid& model, int count) {
+void expectBoxOfFiniteVertices(const SbBox3f& box, const ExposedHyperboloid& model, int count) {
     SbBox3f expected;
     for (int k = 0; k < count; ++k) {
         const SbVec3f vertex(model.getVertex(k, 0), model.getVertex(k, 1), model.getVertex(k, 2));
@@ -467,7 +466,7 @@ void expectBoxOfFiniteVertices(const SbBox3f& box, const OpenHyperboloid& model,
     }
 }
 
-void expectSurfaceDrawn(OpenHyperboloid& model, int columns, int rows) {
+void expectSurfaceDrawn(ExposedHyperboloid& model, int columns, int rows) {
     const NodePointer<SoSeparator> surface(model.DrawHyperboloid());
     const auto* material = childAs<SoMaterial>(surface.get(), 0);
     const auto* mesh = childAs<SoQuadMesh>(surface.get(), 3);
@@ -483,11 +482,11 @@ void expectSurfaceDrawn(OpenHyperboloid& model, int columns, int rows) {
     expectPickOfFiniteVertices(surface.get(), model, columns * rows);
 }
 
-void expectDecorationsDrawn(OpenHyperboloid& model, const DrawnParameters& drawn) {
-    const NodePointer<SoSeparator> axis(model.DrawU3Axis(static_cast<float>(drawn.axisRange),
-                                                         static_cast<float>(drawn.axisRadius)));
+void expectDecorationsDrawn(ExposedHyperboloid& model, const DrawnParameters& drawn) {
+    const NodePointer<SoSeparator> axis(model.DrawU3Axis(static_cast<float>(drawn.p.u3axisRange),
+                                                         static_cast<float>(drawn.p.u3axisRadius)));
     const NodePointer<SoSeparator> lines(model.DrawU3ConstAxis(
-        static_cast<float>(drawn.constRange), static_cast<float>(drawn.constRadius)));
+        static_cast<float>(drawn.p.u3constRange), static_cast<float>(drawn.p.u3constRadius)));
     const NodePointer<SoSeparator> uHat(model.DrawUHat());
     const NodePointer<SoSeparator> center(model.DrawCenter());
     EXPECT_EQ(expectIndicesInRange(axis.get()), 3) << "a tube and both sides of a cone";
@@ -498,9 +497,10 @@ void expectDecorationsDrawn(OpenHyperboloid& model, const DrawnParameters& drawn
 }
 
 void expectDrawn(Surfaces& surfaces) {
-    for (OpenHyperboloid& model : surfaces.models) {
+    for (ExposedHyperboloid& model : surfaces.models) {
         SCOPED_TRACE(testing::Message() << "space " << model.WichSpace());
-        expectSurfaceDrawn(model, surfaces.drawn.columns, surfaces.drawn.rows);
+        expectSurfaceDrawn(model, surfaces.drawn.p.horizontalPrecision,
+                           surfaces.drawn.p.verticalPrecision);
         expectDecorationsDrawn(model, surfaces.drawn);
     }
 }
@@ -567,13 +567,18 @@ TEST(HyperboloidRanges, HoldOnMediumGrids) {
 
 TEST(HyperboloidRanges, HoldOnTheFinestGrid) {
     KindCounts counts{};
-    for (const KAndUHat& p : {KAndUHat{0.01, 100.0, 100.0, 0.5, 80.0, 100.0, -100.0, 100.0},
-                              KAndUHat{99.99, 100.0, 100.0, 50.0, -50.0, 3.0, 100.0, -100.0},
-                              KAndUHat{3.63, 86.89, 60.11, 0.14, -10.71, 0.0, 0.0, 13.77},
-                              KAndUHat{0.02, 1.75, 69.34, 0.14, 3.58, 0.0, 0.0, -0.01},
-                              KAndUHat{1.5, 1.5, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0}, withoutK13}) {
-        ASSERT_TRUE(ParameterDraw::isAccepted(p));
-        checkSurfaces({p, 500, 500, 0.8, 0.5, 100.0, 100.0, 100.0, 100.0, true}, counts);
+    for (const HyperboloidParameters& p :
+         {HyperboloidParameters{0.01, 100.0, 100.0, 0.5, 80.0, 100.0, -100.0, 100.0},
+          HyperboloidParameters{99.99, 100.0, 100.0, 50.0, -50.0, 3.0, 100.0, -100.0},
+          HyperboloidParameters{3.63, 86.89, 60.11, 0.14, -10.71, 0.0, 0.0, 13.77},
+          HyperboloidParameters{0.02, 1.75, 69.34, 0.14, 3.58, 0.0, 0.0, -0.01},
+          HyperboloidParameters{1.5, 1.5, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0}, withoutK13}) {
+        ASSERT_EQ(p.brokenCondition(), HyperboloidCondition::none);
+        HyperboloidParameters finest = p;
+        finest.horizontalPrecision = finest.verticalPrecision = 500;
+        finest.u3constRange = finest.u3axisRange = 100.0;
+        finest.u3constRadius = finest.u3axisRadius = 100.0;
+        checkSurfaces({finest, 0.8, 0.5, true}, counts);
     }
     expectEveryKind(counts, 1);
 }

@@ -1,4 +1,4 @@
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 #include "tests/hyperboloid/SceneReading.h"
 
 #include <Inventor/SoPickedPoint.h>
@@ -6,19 +6,22 @@
 #include <Inventor/nodes/SoMaterialBinding.h>
 #include <Inventor/nodes/SoQuadMesh.h>
 
+#include <stdexcept>
+#include <utility>
+
 namespace {
 
-void expectSceneShowsTables(const OpenHyperboloid& hyperboloid, SoSeparator* scene) {
+void expectSceneShowsTables(const ExposedHyperboloid& hyperboloid, SoSeparator* scene) {
     const auto* coordinates = childAs<SoCoordinate3>(scene, 2);
     ASSERT_NE(coordinates, nullptr);
-    EXPECT_EQ(valuesOf(coordinates->point), hyperboloid.vertices);
-    EXPECT_EQ(valuesOf(hyperboloid.material->ambientColor), hyperboloid.colors);
-    EXPECT_EQ(valuesOf(hyperboloid.material->diffuseColor), hyperboloid.colors);
-    EXPECT_EQ(valuesOf(hyperboloid.material->specularColor), hyperboloid.colors);
+    EXPECT_EQ(valuesOf(coordinates->point), floatsOf(hyperboloid.vertices));
+    EXPECT_EQ(valuesOf(hyperboloid.material->ambientColor), floatsOf(hyperboloid.colors));
+    EXPECT_EQ(valuesOf(hyperboloid.material->diffuseColor), floatsOf(hyperboloid.colors));
+    EXPECT_EQ(valuesOf(hyperboloid.material->specularColor), floatsOf(hyperboloid.colors));
 }
 
 TEST(HyperboloidScene, TheSurfaceHasItsNodesInOrder) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.regenerate(startUp, 6, 9);
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     EXPECT_EQ(nameOf(scene.get()), "Hyperboloid");
@@ -35,7 +38,7 @@ TEST(HyperboloidScene, TheSurfaceHasItsNodesInOrder) {
 }
 
 TEST(HyperboloidScene, ASmallerGridLeavesNoOldValuesInTheMaterial) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> large(hyperboloid.DrawHyperboloid());
     EXPECT_EQ(hyperboloid.material->diffuseColor.getNum(), 64 * 64);
     hyperboloid.regenerate(startUp, 3, 4);
@@ -48,7 +51,7 @@ TEST(HyperboloidScene, ASmallerGridLeavesNoOldValuesInTheMaterial) {
 }
 
 TEST(HyperboloidScene, EveryDrawingIsNewButWearsTheSameMaterial) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     const NodePointer<SoSeparator> first(hyperboloid.DrawHyperboloid());
     const NodePointer<SoSeparator> second(hyperboloid.DrawHyperboloid());
     EXPECT_NE(first, second);
@@ -57,29 +60,34 @@ TEST(HyperboloidScene, EveryDrawingIsNewButWearsTheSameMaterial) {
 }
 
 TEST(HyperboloidScene, DrawingLeavesTheTransparencyAlone) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.material->transparency = 0.5F;
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     EXPECT_EQ(hyperboloid.material->transparency.getNum(), 1);
     EXPECT_EQ(hyperboloid.material->transparency[0], 0.5F);
 }
 
-TEST(HyperboloidScene, AGrownGridWithoutNewTablesDrawsOnlyWholeColumnsThatExist) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
-    hyperboloid.setGrid(startUp, 500, 100);
-    hyperboloid.generateHyperboloidPoints(true, true);
+TEST(HyperboloidScene, AnotherGridIsNotDrawnUntilTheTablesAreMadeAnew) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    const NodePointer<SoSeparator> before(hyperboloid.DrawHyperboloid());
+    for (const auto& [columns, rows] : {std::pair{500, 100}, std::pair{32, 128}}) {
+        hyperboloid.setGrid(startUp, columns, rows);
+        EXPECT_THROW(hyperboloid.DrawHyperboloid(), std::logic_error);
+        EXPECT_EQ(hyperboloid.material->diffuseColor.getNum(), 64 * 64);
+    }
+    hyperboloid.regenerate(startUp, 33, 17);
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     const auto* coordinates = childAs<SoCoordinate3>(scene.get(), 2);
     const auto* mesh = childAs<SoQuadMesh>(scene.get(), 3);
     ASSERT_TRUE(coordinates != nullptr && mesh != nullptr);
-    EXPECT_EQ(mesh->verticesPerRow.getValue(), 100);
-    EXPECT_EQ(mesh->verticesPerColumn.getValue(), 40); // 64 * 64 / 100
-    EXPECT_EQ(coordinates->point.getNum(), 4000);
-    EXPECT_EQ(hyperboloid.material->diffuseColor.getNum(), 4000);
+    EXPECT_EQ(mesh->verticesPerRow.getValue(), 17);
+    EXPECT_EQ(mesh->verticesPerColumn.getValue(), 33);
+    EXPECT_EQ(coordinates->point.getNum(), 33 * 17);
+    EXPECT_EQ(hyperboloid.material->diffuseColor.getNum(), 33 * 17);
 }
 
 TEST(HyperboloidScene, AnEmptyGridDrawsNoVertices) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.regenerate(startUp, 0, 9);
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     const auto* coordinates = childAs<SoCoordinate3>(scene.get(), 2);
@@ -91,7 +99,7 @@ TEST(HyperboloidScene, AnEmptyGridDrawsNoVertices) {
 }
 
 TEST(HyperboloidScene, APickedPointsMaterialIndexIsItsVertexIndex) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     for (const int vertex : {5 * 64 + 7, 20 * 64 + 33, 41 * 64 + 50}) {
         const SbVec3f target(hyperboloid.getVertex(vertex, 0), hyperboloid.getVertex(vertex, 1),

@@ -1,6 +1,6 @@
 #include "hyperboloid/HyperboloidSpaces.h"
 
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 using Point = std::array<double, 3>;
 
 /** Parameters with both signs of b d, none of them special. */
-constexpr KAndUHat ordinaryParameters[] = {
+constexpr HyperboloidParameters ordinaryParameters[] = {
     startUp,
     unswapped,
     {2.0, 0.7, 1.2, 0.3, 0.4, 0.5, -0.8, 0.3},
@@ -22,7 +22,7 @@ constexpr KAndUHat ordinaryParameters[] = {
     {3.0, 1.0, 2.0, 0.9, -0.7, 0.3, 0.3, 0.9},
 };
 
-Point vertexOf(const OpenHyperboloid& hyperboloid, int k) {
+Point vertexOf(const ExposedHyperboloid& hyperboloid, int k) {
     return {hyperboloid.getVertex(k, 0), hyperboloid.getVertex(k, 1), hyperboloid.getVertex(k, 2)};
 }
 
@@ -31,14 +31,14 @@ double length(const Point& p) {
 }
 
 /** m = K (u - uHat), written out for the five entries of K. */
-Point mOf(const KAndUHat& p, const Point& u) {
+Point mOf(const HyperboloidParameters& p, const Point& u) {
     const Point w{u[0] - p.U1, u[1] - p.U2, u[2] - p.U3};
     return {p.K1 * w[0] + p.K13 * w[2], p.K2 * w[1] + p.K23 * w[2],
             p.K13 * w[0] + p.K23 * w[1] + p.K3 * w[2]};
 }
 
 /** x = R u + s, written out. */
-Point xOf(const OpenHyperboloid& h, const Point& u) {
+Point xOf(const ExposedHyperboloid& h, const Point& u) {
     const double b = h.b;
     const double d = h.d;
     return {u[0] + u[1] - (b + d) * u[2] + h.shift.GetCoord(0),
@@ -46,7 +46,7 @@ Point xOf(const OpenHyperboloid& h, const Point& u) {
 }
 
 /** The largest entry of K. */
-double size(const KAndUHat& p) {
+double size(const HyperboloidParameters& p) {
     return std::max(
         {std::fabs(p.K1), std::fabs(p.K2), std::fabs(p.K3), std::fabs(p.K13), std::fabs(p.K23)});
 }
@@ -55,8 +55,8 @@ double size(const KAndUHat& p) {
 constexpr double relativeBound = 16.0 * std::numeric_limits<float>::epsilon();
 
 TEST(HyperboloidSpaces, VerticesOfUSpaceLieOnTheQuadric) {
-    for (const KAndUHat& parameters : ordinaryParameters) {
-        const OpenHyperboloid hyperboloid(parameters, Hyperboloid::USPACE);
+    for (const HyperboloidParameters& parameters : ordinaryParameters) {
+        const ExposedHyperboloid hyperboloid(parameters, Hyperboloid::USPACE);
         double largest = 0.0;
         for (int k = 0; k < 64 * 64; ++k) {
             largest = std::max(largest, length(vertexOf(hyperboloid, k)));
@@ -71,10 +71,10 @@ TEST(HyperboloidSpaces, VerticesOfUSpaceLieOnTheQuadric) {
 }
 
 TEST(HyperboloidSpaces, TheSameVertexOfAllSpacesIsTheSamePoint) {
-    for (const KAndUHat& parameters : ordinaryParameters) {
-        const OpenHyperboloid U(parameters, Hyperboloid::USPACE);
-        const OpenHyperboloid X(parameters, Hyperboloid::XSPACE);
-        const OpenHyperboloid M(parameters, Hyperboloid::MSPACE);
+    for (const HyperboloidParameters& parameters : ordinaryParameters) {
+        const ExposedHyperboloid U(parameters, Hyperboloid::USPACE);
+        const ExposedHyperboloid X(parameters, Hyperboloid::XSPACE);
+        const ExposedHyperboloid M(parameters, Hyperboloid::MSPACE);
         for (int k = 0; k < 64 * 64; ++k) {
             const Point u = vertexOf(U, k);
             const Point x = vertexOf(X, k);
@@ -91,8 +91,8 @@ TEST(HyperboloidSpaces, TheSameVertexOfAllSpacesIsTheSamePoint) {
 }
 
 TEST(HyperboloidSpaces, CanonicalPointsSatisfyTheEquationOfTheirHyperboloid) {
-    for (const KAndUHat& parameters : ordinaryParameters) {
-        const OpenHyperboloid hyperboloid(parameters, Hyperboloid::XSPACE);
+    for (const HyperboloidParameters& parameters : ordinaryParameters) {
+        const ExposedHyperboloid hyperboloid(parameters, Hyperboloid::XSPACE);
         const std::size_t axis = hyperboloid.swapAxes ? 1 : 0;
         for (int k = 0; k < 64 * 64; ++k) {
             const Point x = vertexOf(hyperboloid, k);

@@ -1,12 +1,15 @@
 #include "hyperboloid/HyperboloidSurface.h"
 
-#include "tests/hyperboloid/OpenHyperboloid.h"
+#include "tests/hyperboloid/ExposedHyperboloid.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -21,8 +24,16 @@ bool allZero(const std::vector<float>& table) {
     return std::all_of(table.begin(), table.end(), [](float value) { return value == 0.0F; });
 }
 
+bool allFinite(const std::vector<FloatTriple>& table) {
+    return allFinite(floatsOf(table));
+}
+
+bool allZero(const std::vector<FloatTriple>& table) {
+    return allZero(floatsOf(table));
+}
+
 TEST(HyperboloidSurface, FirstVertexOfXSpaceIsTheKnownPoint) {
-    const OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    const ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     EXPECT_EQ(hyperboloid.getVertex(0, 0), static_cast<float>(2.0 * std::sqrt(17.0)));
     EXPECT_NEAR(hyperboloid.getVertex(0, 0), 8.2462F, 1e-4F);
     EXPECT_EQ(hyperboloid.getVertex(0, 1), -8.0F);
@@ -30,7 +41,7 @@ TEST(HyperboloidSurface, FirstVertexOfXSpaceIsTheKnownPoint) {
 }
 
 TEST(HyperboloidSurface, FirstVertexOfUSpaceIsThatPointMappedBack) {
-    const OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    const ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     // x - s = (y1, y2, y3); R^-1 solves u1 + u2 = y1, u1 - u2 - 2 u3 = y2, u3 = y3.
     const double y1 = 2.0 * std::sqrt(17.0) - 2.0;
     const double y2 = -8.0 - 2.0;
@@ -41,9 +52,9 @@ TEST(HyperboloidSurface, FirstVertexOfUSpaceIsThatPointMappedBack) {
 }
 
 TEST(HyperboloidSurface, SwappedAxesPutTheHeightIntoTheSecondCoordinate) {
-    OpenHyperboloid swapped(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid swapped(startUp, Hyperboloid::XSPACE);
     swapped.regenerate(startUp, 9, 5);
-    OpenHyperboloid straight(unswapped, Hyperboloid::XSPACE);
+    ExposedHyperboloid straight(unswapped, Hyperboloid::XSPACE);
     straight.regenerate(unswapped, 9, 5);
     for (int k = 0; k < 45; ++k) {
         const float t = static_cast<float>(k % 5) * 2.0F - 4.0F;
@@ -57,15 +68,15 @@ TEST(HyperboloidSurface, SwappedAxesPutTheHeightIntoTheSecondCoordinate) {
 TEST(HyperboloidSurface, EachSemiAxisScalesItsOwnCoordinate) {
     for (const bool swapAxes : {false, true}) {
         const HyperboloidSurface::Parameters parameters{
-            5,
-            3,
+            {5, 3},
             4.0F,
             {2.0F, 3.0F, 5.0F},
             swapAxes,
             HyperboloidSpaces::X,
             HyperboloidSpaces(Matrice(), Vecteur(3), Matrice(), Vecteur(3))};
-        std::vector<float> vertices(45);
-        HyperboloidSurface::generate(parameters, vertices);
+        std::vector<FloatTriple> table(15);
+        HyperboloidSurface::generate(parameters, table);
+        const std::vector<float> vertices = floatsOf(table);
         const float root = std::sqrt(17.0F);
         // Column 0 (theta 0), row 0 (t = -4).
         EXPECT_FLOAT_EQ(vertices[swapAxes ? 0 : 1], root * (swapAxes ? 2.0F : 3.0F));
@@ -81,15 +92,15 @@ TEST(HyperboloidSurface, EachSemiAxisScalesItsOwnCoordinate) {
 TEST(HyperboloidSurface, AnInfiniteSemiAxisMakesTheOtherPartNan) {
     const float infinity = std::numeric_limits<float>::infinity();
     const HyperboloidSurface::Parameters parameters{
-        3,
-        3,
+        {3, 3},
         4.0F,
         {infinity, 1.0F, 1.0F},
         false,
         HyperboloidSpaces::X,
         HyperboloidSpaces(Matrice(), Vecteur(3), Matrice(), Vecteur(3))};
-    std::vector<float> vertices(27);
-    HyperboloidSurface::generate(parameters, vertices);
+    std::vector<FloatTriple> table(9);
+    HyperboloidSurface::generate(parameters, table);
+    const std::vector<float> vertices = floatsOf(table);
     EXPECT_TRUE(std::isinf(vertices[0]));
     EXPECT_TRUE(std::isnan(vertices[1]));
     EXPECT_EQ(vertices[2], 0.0F);
@@ -97,7 +108,7 @@ TEST(HyperboloidSurface, AnInfiniteSemiAxisMakesTheOtherPartNan) {
 
 TEST(HyperboloidSurface, FirstAndLastColumnCoincideInEverySpace) {
     for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(startUp, space);
+        ExposedHyperboloid hyperboloid(startUp, space);
         hyperboloid.regenerate(startUp, 37, 21);
         for (int j = 0; j < 21; ++j) {
             for (int comp = 0; comp < 3; ++comp) {
@@ -109,8 +120,8 @@ TEST(HyperboloidSurface, FirstAndLastColumnCoincideInEverySpace) {
 }
 
 TEST(HyperboloidSurface, EnergiesOfUSpaceRunFromExactlyZeroToExactlyOne) {
-    for (const KAndUHat& parameters : {startUp, unswapped}) {
-        const OpenHyperboloid hyperboloid(parameters, Hyperboloid::USPACE);
+    for (const HyperboloidParameters& parameters : {startUp, unswapped}) {
+        const ExposedHyperboloid hyperboloid(parameters, Hyperboloid::USPACE);
         const auto [lowest, highest] =
             std::minmax_element(hyperboloid.energies.begin(), hyperboloid.energies.end());
         EXPECT_EQ(*lowest, 0.0F);
@@ -120,18 +131,19 @@ TEST(HyperboloidSurface, EnergiesOfUSpaceRunFromExactlyZeroToExactlyOne) {
 
 TEST(HyperboloidSurface, OnlyUSpaceComputesEnergiesAndColours) {
     for (const int space : {Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
-        OpenHyperboloid hyperboloid(startUp, space);
+        ExposedHyperboloid hyperboloid(startUp, space);
         EXPECT_TRUE(allZero(hyperboloid.energies));
         EXPECT_TRUE(allZero(hyperboloid.colors));
-        hyperboloid.colors[7] = 0.25F;
+        const FloatTriple copied{0.25F, 0.31F, 0.47F};
+        hyperboloid.colors[7] = copied;
         hyperboloid.generateHyperboloidPoints(true, true);
-        EXPECT_EQ(hyperboloid.colors[7], 0.25F) << "copied colours stay";
+        EXPECT_EQ(hyperboloid.colors[7], copied) << "copied colours stay";
         EXPECT_FALSE(allZero(hyperboloid.vertices));
     }
 }
 
 TEST(HyperboloidSurface, PointsWithoutColoursLeaveTheColours) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.init_tables();
     hyperboloid.generateHyperboloidPoints(true, false);
     EXPECT_TRUE(allZero(hyperboloid.colors));
@@ -140,7 +152,7 @@ TEST(HyperboloidSurface, PointsWithoutColoursLeaveTheColours) {
 }
 
 TEST(HyperboloidSurface, NeitherPointsNorColoursDoesNothing) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.init_tables();
     hyperboloid.generateHyperboloidPoints(false, false);
     EXPECT_TRUE(allZero(hyperboloid.vertices));
@@ -148,48 +160,81 @@ TEST(HyperboloidSurface, NeitherPointsNorColoursDoesNothing) {
 }
 
 TEST(HyperboloidSurface, NewTablesHaveTheSizeOfTheGridAndHoldZeros) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.setGrid(startUp, 7, 11);
     hyperboloid.init_tables();
-    EXPECT_EQ(hyperboloid.vertices.size(), 231U);
-    EXPECT_EQ(hyperboloid.colors.size(), 231U);
+    EXPECT_EQ(hyperboloid.vertices.size(), 77U);
+    EXPECT_EQ(hyperboloid.colors.size(), 77U);
     EXPECT_EQ(hyperboloid.energies.size(), 77U);
     EXPECT_TRUE(allZero(hyperboloid.vertices));
     EXPECT_TRUE(allZero(hyperboloid.colors));
     EXPECT_TRUE(allZero(hyperboloid.energies));
 }
 
-TEST(HyperboloidSurface, AGrownGridWithoutNewTablesFillsOnlyWholeColumnsThatFit) {
-    for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(startUp, space);
-        hyperboloid.regenerate(startUp, 4, 5);
-        hyperboloid.setGrid(startUp, 40, 6); // the tables hold 20 vertices: 3 columns and 2 more
-        hyperboloid.vertices.assign(60, -100.0F);
-        hyperboloid.generateHyperboloidPoints(true, true);
-        EXPECT_EQ(hyperboloid.vertices.size(), 60U);
-        for (std::size_t i = 0; i < 60; ++i) {
-            EXPECT_EQ(hyperboloid.vertices[i] == -100.0F, i >= 54);
-        }
-        hyperboloid.setGrid(startUp, 2, 100); // not even one column fits
-        hyperboloid.vertices.assign(60, -100.0F);
-        hyperboloid.generateHyperboloidPoints(true, true);
-        EXPECT_EQ(hyperboloid.vertices, std::vector<float>(60, -100.0F));
+/** Whether an action is refused with a text that names what was left out. */
+template <typename Action>
+void expectMissingTables(Action action) {
+    try {
+        action();
+        ADD_FAILURE() << "tables of another grid were taken";
+    } catch (const std::logic_error& error) {
+        EXPECT_NE(std::string(error.what()).find("init_tables()"), std::string::npos)
+            << error.what();
     }
 }
 
-TEST(HyperboloidSurface, ColumnsThatFitAreWholeAndAtMostTheGrids) {
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(10, 4, 40), 10U);
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(10, 4, 39), 9U);
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(10, 4, 400), 10U);
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(10, 0, 40), 0U);
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(0, 4, 40), 0U);
-    EXPECT_EQ(HyperboloidSurface::columnsThatFit(10, 4, 0), 0U);
+TEST(HyperboloidSurface, AnotherGridIsRefusedUntilTheTablesAreMadeAnew) {
+    for (const int space : allSpaces) {
+        ExposedHyperboloid hyperboloid(startUp, space);
+        hyperboloid.regenerate(startUp, 12, 20);
+        const std::vector<FloatTriple> vertices = hyperboloid.vertices;
+        const std::vector<FloatTriple> colors = hyperboloid.colors;
+        const std::vector<float> energies = hyperboloid.energies;
+        // More, fewer, and as many vertices in another shape.
+        for (const auto& [columns, rows] :
+             {std::pair{40, 21}, std::pair{5, 20}, std::pair{20, 12}, std::pair{0, 0}}) {
+            hyperboloid.setGrid(unswapped, columns, rows);
+            expectMissingTables([&] { hyperboloid.generateHyperboloidPoints(true, true); });
+            expectMissingTables([&] { hyperboloid.generateHyperboloidPoints(true, false); });
+            expectMissingTables([&] { hyperboloid.generateHyperboloidPoints(false, true); });
+            expectMissingTables([&] { hyperboloid.normalize_energy(); });
+            EXPECT_EQ(hyperboloid.vertices, vertices);
+            EXPECT_EQ(hyperboloid.colors, colors);
+            EXPECT_EQ(hyperboloid.energies, energies);
+        }
+        hyperboloid.init_tables();
+        EXPECT_NO_THROW(hyperboloid.generateHyperboloidPoints(true, true));
+        EXPECT_NO_THROW(hyperboloid.normalize_energy());
+    }
+}
+
+TEST(HyperboloidSurface, TheRefusalNamesBothGrids) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.regenerate(startUp, 12, 20);
+    hyperboloid.setGrid(startUp, 7, 11);
+    try {
+        hyperboloid.normalize_energy();
+        FAIL() << "tables of another grid were taken";
+    } catch (const std::logic_error& error) {
+        EXPECT_STREQ(error.what(), "The tables hold 12 x 20 vertices, the grid 7 x 11: "
+                                   "init_tables() is missing.");
+    }
+}
+
+TEST(HyperboloidSurface, TheGridBackAsItWasNeedsNoNewTables) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.regenerate(startUp, 12, 20);
+    const std::vector<FloatTriple> vertices = hyperboloid.vertices;
+    hyperboloid.setGrid(startUp, 20, 12);
+    hyperboloid.setGrid(startUp, 12, 20);
+    hyperboloid.generateHyperboloidPoints(true, true);
+    EXPECT_EQ(hyperboloid.vertices, vertices);
 }
 
 TEST(HyperboloidSurface, AGridWithoutColumnsOrRowsHasNoVertices) {
     for (const int space : allSpaces) {
         for (const auto& [columns, rows] : {std::pair{0, 0}, std::pair{0, 9}, std::pair{9, 0}}) {
-            OpenHyperboloid hyperboloid(startUp, space);
+            ExposedHyperboloid hyperboloid(startUp, space);
             hyperboloid.regenerate(startUp, columns, rows);
             EXPECT_EQ(hyperboloid.getNumVertices(), 0U);
             EXPECT_TRUE(hyperboloid.vertices.empty());
@@ -199,7 +244,7 @@ TEST(HyperboloidSurface, AGridWithoutColumnsOrRowsHasNoVertices) {
 }
 
 TEST(HyperboloidSurface, ASingleColumnHasANanAngle) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     hyperboloid.regenerate(startUp, 1, 3);
     EXPECT_TRUE(std::isnan(hyperboloid.getVertex(0, 0)));
     EXPECT_EQ(hyperboloid.getVertex(0, 1), -8.0F);
@@ -207,15 +252,15 @@ TEST(HyperboloidSurface, ASingleColumnHasANanAngle) {
 }
 
 TEST(HyperboloidSurface, ASingleRowHasANanHeight) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     hyperboloid.regenerate(startUp, 3, 1);
-    for (const float coordinate : hyperboloid.vertices) {
+    for (const float coordinate : floatsOf(hyperboloid.vertices)) {
         EXPECT_TRUE(std::isnan(coordinate));
     }
 }
 
 TEST(HyperboloidSurface, TheSmallestClosedGridHasItsFourCorners) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     hyperboloid.regenerate(startUp, 2, 2);
     EXPECT_EQ(hyperboloid.getVertex(0, 1), -8.0F);
     EXPECT_EQ(hyperboloid.getVertex(1, 1), 8.0F);
@@ -225,29 +270,29 @@ TEST(HyperboloidSurface, TheSmallestClosedGridHasItsFourCorners) {
 }
 
 TEST(HyperboloidSurface, EqualK1AndK2GiveNoFiniteSurfaceButNoErrorEither) {
-    const KAndUHat equal{1.0, 1.0, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0};
+    const HyperboloidParameters equal{1.0, 1.0, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0};
     for (const int space : allSpaces) {
-        OpenHyperboloid hyperboloid(startUp, space);
+        ExposedHyperboloid hyperboloid(startUp, space);
         hyperboloid.regenerate(equal, 8, 8);
         EXPECT_FALSE(allFinite(hyperboloid.vertices));
     }
 }
 
 TEST(HyperboloidSurface, NanEnergiesAreColouredWithTheLowestChannelValue) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     // K = 0: every energy is 0.
     hyperboloid.set_k_uHat(0.0, 0.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0);
     hyperboloid.generateHyperboloidPoints(true, true);
     for (const float energy : hyperboloid.energies) {
         EXPECT_TRUE(std::isnan(energy));
     }
-    for (const float channel : hyperboloid.colors) {
+    for (const float channel : floatsOf(hyperboloid.colors)) {
         EXPECT_FLOAT_EQ(channel, 0.1F);
     }
 }
 
 TEST(HyperboloidSurface, PositionForParametersIgnoresSwappedAxesAndNegatesTheHeight) {
-    OpenHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
     ASSERT_TRUE(hyperboloid.swapAxes);
     hyperboloid.semiAxis = {2.0F, 3.0F, 5.0F};
     const float t = 1.3F;

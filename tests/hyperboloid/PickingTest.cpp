@@ -1,3 +1,4 @@
+#include "hyperboloid/HyperboloidNames.h"
 #include "tests/support/LinkedFrames.h"
 #include "tests/support/SceneReader.h"
 #include "tests/support/Spheres.h"
@@ -111,7 +112,7 @@ std::vector<std::pair<SbVec3f, SbVec3f>> tubesOf(const HyperboloidFrame& frame, 
 /** A place where one of the axes is in front of everything else. */
 QPoint findAxis(HyperboloidFrame& frame) {
     const ViewDriver driver(frame);
-    for (const char* name : {"U3Axis", "U3ConstAxis"}) {
+    for (const char* name : {HyperboloidNames::u3Axis, HyperboloidNames::u3ConstAxis}) {
         for (const auto& [from, to] : tubesOf(frame, name)) {
             for (float step = 0; step < 1; step += 0.01F) {
                 const QPoint position = driver.positionOf(from + (to - from) * step);

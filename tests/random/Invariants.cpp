@@ -1,6 +1,7 @@
 #include "tests/random/Invariants.h"
 
 #include "helix/HelixNames.h"
+#include "hyperboloid/HyperboloidNames.h"
 #include "tests/random/VisibleSurface.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/SceneReader.h"
@@ -51,8 +52,8 @@ void checkBrothers(const OpenedWindow& opened) {
 
 /** The mesh that is shown consists of the model's vertices. */
 void checkShownMesh(const HyperboloidFrame& frame) {
-    const SoSeparator* surface =
-        SceneReader::childNamed(SceneReader::drawStyleBranch(*frame.getSceneRoot()), "Hyperboloid");
+    const SoSeparator* surface = SceneReader::childNamed(
+        SceneReader::drawStyleBranch(*frame.getSceneRoot()), HyperboloidNames::surface);
     ASSERT_NE(surface, nullptr);
     const auto count = static_cast<int>(frame.getNumVertices());
     for (int i = 0; i < surface->getNumChildren(); ++i) {
@@ -90,7 +91,7 @@ void checkHyperboloids(const OpenedWindow& opened) {
         const HyperboloidFrame& frame = opened.hyperboloid(space);
         checkShownMesh(frame);
         checkSpheres(opened, frame);
-        for (const char* decoration : {"Center", "uHat", "U3ConstAxis", "U3Axis"}) {
+        for (const char* decoration : HyperboloidNames::decorations) {
             EXPECT_EQ(SceneReader::countNamed(SceneReader::phongBranch(*frame.getSceneRoot()),
                                               decoration),
                       1)

@@ -3,41 +3,38 @@
 #include "hyperboloid/Hyperboloid.h"
 
 #include <array>
-
-/** The parameters of a hyperboloid's matrix K and of its point uHat. */
-struct KAndUHat {
-    double K1, K2, K3, K13, K23;
-    double U1, U2, U3;
-};
+#include <vector>
 
 /** a = -2, b = 1, c = 0, d = -1: b d < 0, swapped axes. */
-constexpr KAndUHat startUp{1.0, 1.5, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0};
+constexpr HyperboloidParameters startUp{1.0, 1.5, 1.0, 0.5, 0.5, 1.0, 0.0, 0.0};
 /** a = -2, b = 1, c = 0, d = 1: b d > 0, axes not swapped. */
-constexpr KAndUHat unswapped{1.0, 1.5, 1.0, 0.5, -0.5, 1.0, 0.0, 0.0};
+constexpr HyperboloidParameters unswapped{1.0, 1.5, 1.0, 0.5, -0.5, 1.0, 0.0, 0.0};
 /** K13 = 0, so b = 0. */
-constexpr KAndUHat withoutK13{1.0, 1.5, 1.0, 0.0, 0.5, 1.0, 0.0, 0.0};
+constexpr HyperboloidParameters withoutK13{1.0, 1.5, 1.0, 0.0, 0.5, 1.0, 0.0, 0.0};
 /** K23 = 0, so d = 0. */
-constexpr KAndUHat withoutK23{1.0, 1.5, 1.0, 0.5, 0.0, 1.0, 0.0, 0.0};
+constexpr HyperboloidParameters withoutK23{1.0, 1.5, 1.0, 0.5, 0.0, 1.0, 0.0, 0.0};
 /** a = c = 0, so b c + a d = 0 although b d is not. */
-constexpr KAndUHat withoutUHat{1.0, 1.5, 1.0, 0.5, 0.5, 0.0, 0.0, 0.0};
+constexpr HyperboloidParameters withoutUHat{1.0, 1.5, 1.0, 0.5, 0.5, 0.0, 0.0, 0.0};
 
 /** A hyperboloid whose fields the tests may read and write, as a frame does. */
-class OpenHyperboloid : public Hyperboloid {
+class ExposedHyperboloid : public Hyperboloid {
 public:
-    OpenHyperboloid(const KAndUHat& p, int spaceIndex)
+    ExposedHyperboloid(const HyperboloidParameters& p, int spaceIndex)
         : Hyperboloid(static_cast<float>(p.K1), static_cast<float>(p.K2), static_cast<float>(p.K3),
                       static_cast<float>(p.K13), static_cast<float>(p.K23),
                       static_cast<float>(p.U1), static_cast<float>(p.U2), static_cast<float>(p.U3),
                       spaceIndex) {}
 
-    /** New parameters and grid without new tables; everything else as at construction. */
-    void setGrid(const KAndUHat& p, int columns, int rows) {
-        set_parameters(p.K1, p.K2, p.K3, p.K13, p.K23, p.U1, p.U2, p.U3, columns, rows, 0.3, 7.0,
-                       7.0, 0.02, 0.03);
+    /** New parameters on a grid of its own, without new tables. */
+    void setGrid(const HyperboloidParameters& p, int columns, int rows) {
+        HyperboloidParameters set = p;
+        set.horizontalPrecision = columns;
+        set.verticalPrecision = rows;
+        setParameters(set);
     }
 
     /** New parameters, grid, tables and points, as the frame makes them. */
-    void regenerate(const KAndUHat& p, int columns, int rows) {
+    void regenerate(const HyperboloidParameters& p, int columns, int rows) {
         setGrid(p, columns, rows);
         init_tables();
         generateHyperboloidPoints(true, true);
@@ -65,6 +62,15 @@ public:
     using Hyperboloid::U;
     using Hyperboloid::vertices;
 };
+
+/** All numbers of a table of triples, one after the other. */
+inline std::vector<float> floatsOf(const std::vector<FloatTriple>& table) {
+    std::vector<float> floats;
+    for (const FloatTriple& triple : table) {
+        floats.insert(floats.end(), {triple.x, triple.y, triple.z});
+    }
+    return floats;
+}
 
 /** The coordinates of a vector of dimension 3. */
 inline std::array<double, 3> coordinates(const Vecteur& vector) {
