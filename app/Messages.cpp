@@ -1,5 +1,6 @@
 #include "app/Messages.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
@@ -31,6 +32,14 @@ void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
     layout->addWidget(ok);
     box.setLayout(layout);
     box.exec();
+}
+
+void Messages::about(QWidget* parent) {
+    QMessageBox::about(
+        parent, QCoreApplication::translate("MainWindow", "About MDI"),
+        QCoreApplication::translate("MainWindow",
+                                    "The <b>Lumarin</b> example shows how to use multiple Coin3D "
+                                    "viewers with SoQt."));
 }
 
 void Messages::warn(const QString& text, QWidget* parent) {
