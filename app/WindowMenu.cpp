@@ -7,18 +7,17 @@
 
 WindowMenu::WindowMenu(QMenu& menu, const QMdiArea& documentArea)
     : windowMenu(menu)
-    , area(documentArea)
-    , commands(menu.actions()) {}
+    , area(documentArea) {}
 
 void WindowMenu::update() {
-    windowMenu.clear();
-    windowMenu.addActions(commands);
+    qDeleteAll(entries);
+    entries.clear();
     const QString text = QCoreApplication::translate("MainWindow", "&%1 %2");
-    int position = 0;
     for (QMdiSubWindow* subWindow : area.subWindowList()) {
-        ++position;
+        const int position = entries.size() + 1;
         QAction* entry =
             windowMenu.addAction(text.arg(position).arg(subWindow->widget()->windowTitle()));
+        entries.append(entry);
         entry->setCheckable(true);
         entry->setChecked(subWindow == area.activeSubWindow());
         QObject::connect(entry, SIGNAL(triggered()), &windowMapper, SLOT(map()));

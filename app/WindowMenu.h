@@ -10,7 +10,7 @@ class QMenu;
 /** The menu that lists the open documents below its commands and lets the user jump to one. */
 class WindowMenu {
 public:
-    /** Takes what the menu holds now, made elsewhere, for the commands above the list. */
+    /** The list goes below what the menu holds, which stays. */
     WindowMenu(QMenu& menu, const QMdiArea& documentArea);
 
     /**
@@ -27,6 +27,6 @@ public:
 private:
     QMenu& windowMenu;
     const QMdiArea& area;
-    QList<QAction*> commands;
+    QList<QAction*> entries;
     QSignalMapper windowMapper;
 };
