@@ -1,45 +1,49 @@
 #include "app/AppearanceWindow.h"
 
-#include "app/SliderRow.h"
 #include "hyperboloid/Hyperboloid.h"
 
 #include <QCoreApplication>
 #include <QSlider>
 #include <QSpinBox>
+#include <array>
 
 namespace {
 
-SliderRow createRow(QWidget* window, const char* text) {
-    return SliderRow::create(window, QCoreApplication::translate("QMainWindow", text), 0, 100);
-}
+constexpr int mostPercent = 100;
 
-/** Lets spin box and slider follow each other; only the slider reaches the receiver. */
-void connectRow(const SliderRow& row, const QObject* receiver, const char* slot) {
-    QObject::connect(row.spinBox, SIGNAL(valueChanged(int)), row.slider, SLOT(setValue(int)));
-    QObject::connect(row.slider, SIGNAL(valueChanged(int)), row.spinBox, SLOT(setValue(int)));
-    QObject::connect(row.slider, SIGNAL(valueChanged(int)), receiver, slot);
-}
+/** A quantity of the surfaces: its label, the receiver's slot and the model's value in 0 to 1. */
+struct Quantity {
+    const char* text;
+    const char* slot;
+    double (Hyperboloid::*value)() const;
+};
 
-void setPercent(const SliderRow& row, double value) {
-    row.spinBox->setValue(static_cast<int>(value * AppearanceWindow::percent));
+std::array<Quantity, 3> quantities() {
+    return {{{QT_TRANSLATE_NOOP("QMainWindow", "Transparency:"),
+              SLOT(refreshHyperboloidTransp(int)), &Hyperboloid::getTransparency},
+             {QT_TRANSLATE_NOOP("QMainWindow", "Lightness:"), SLOT(refreshHyperboloidLight(int)),
+              &Hyperboloid::getLightness},
+             {QT_TRANSLATE_NOOP("QMainWindow", "Saturation:"), SLOT(refreshHyperboloidSat(int)),
+              &Hyperboloid::getSaturation}}};
 }
 
 } // namespace
 
-AppearanceWindow::AppearanceWindow(const Hyperboloid& hyperboloid, const QObject* receiver) {
-    SliderRow::tieLifeTo(this, receiver);
-    const SliderRow transparency =
-        createRow(this, QT_TRANSLATE_NOOP("QMainWindow", "Transparency:"));
-    const SliderRow lightness = createRow(this, QT_TRANSLATE_NOOP("QMainWindow", "Lightness:"));
-    const SliderRow saturation = createRow(this, QT_TRANSLATE_NOOP("QMainWindow", "Saturation:"));
-
-    connectRow(transparency, receiver, SLOT(refreshHyperboloidTransp(int)));
-    connectRow(lightness, receiver, SLOT(refreshHyperboloidLight(int)));
-    connectRow(saturation, receiver, SLOT(refreshHyperboloidSat(int)));
-
-    setPercent(transparency, hyperboloid.getTransparency());
-    setPercent(lightness, hyperboloid.getLightness());
-    setPercent(saturation, hyperboloid.getSaturation());
-
-    SliderRow::layOut(this, {transparency, lightness, saturation});
+AppearanceWindow::AppearanceWindow(const Hyperboloid& hyperboloid, const QObject* receiver)
+    : ControlWindow(receiver) {
+    const auto all = quantities();
+    std::vector<SliderRow> rows;
+    for (const Quantity& quantity : all) {
+        const SliderRow row = SliderRow::create(
+            this, QCoreApplication::translate("QMainWindow", quantity.text), 0, mostPercent);
+        row.follow();
+        // Only the slider reaches the receiver.
+        connect(row.slider, SIGNAL(valueChanged(int)), receiver, quantity.slot);
+        rows.push_back(row);
+    }
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const double value = (hyperboloid.*all.at(i).value)();
+        rows[i].spinBox->setValue(static_cast<int>(value * percent));
+    }
+    layOut(rows);
 }

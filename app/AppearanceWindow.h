@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "app/ControlWindow.h"
 
 class Hyperboloid;
 
@@ -11,7 +11,7 @@ class Hyperboloid;
  * Every change is one call of the receiver's slots refreshHyperboloidTransp(int),
  * refreshHyperboloidLight(int) and refreshHyperboloidSat(int).
  */
-class AppearanceWindow : public QWidget {
+class AppearanceWindow : public ControlWindow {
     Q_OBJECT
 
 public:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "app/ControlWindow.h"
 
 class Helix;
 
@@ -10,16 +10,13 @@ class Helix;
  *
  * The window knows no helix beyond its opening: every change is one call of the receiver's slots
  * helix_change_radius(int), helix_change_range(int), helix_change_nturns(int),
- * helix_change_precision_line(int) and helix_change_precision_tube(int). Lengths travel in steps of
- * 1/10000.
+ * helix_change_precision_line(int) and helix_change_precision_tube(int). Lengths travel in steps,
+ * see HelixChanges.
  */
-class HelixWindow : public QWidget {
+class HelixWindow : public ControlWindow {
     Q_OBJECT
 
 public:
-    /** Steps of the tube radius and the ribbon range per unit of length. */
-    static constexpr double stepsPerUnit = 10000.0;
-
     /**
      * Connects the controls to the receiver, then sets the sliders to the helix's values. These
      * first settings already travel to the receiver, so the helix takes on the truncated lengths.

@@ -1,60 +1,86 @@
 #include "app/HyperboloidParameterDialog.h"
 
+#include "app/Messages.h"
+#include "hyperboloid/HyperboloidFrame.h"
+
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <type_traits>
 
 namespace {
 
-constexpr double largest = 100;
-constexpr double smallestDivisor = 0.01;
-constexpr double largestPointRadius = 10;
-constexpr double step = 0.01;
-constexpr int coarsestGrid = 5;
-constexpr int finestGrid = 500;
+using Set = HyperboloidParameters;
 
-QString translated(const char* text) {
-    return QCoreApplication::translate("QMainWindow", text);
+struct LabelledField {
+    const char* text;
+    HyperboloidParameter::Member member;
+};
+
+constexpr std::size_t rowCount = 5;
+using Column = std::array<LabelledField, rowCount>;
+
+/** The fields from left to right, each column from top to bottom. */
+constexpr std::array<Column, 3> columns{{
+    {{{QT_TRANSLATE_NOOP("QMainWindow", "K1 :"), &Set::K1},
+      {QT_TRANSLATE_NOOP("QMainWindow", "K2 :"), &Set::K2},
+      {QT_TRANSLATE_NOOP("QMainWindow", "K3 :"), &Set::K3},
+      {QT_TRANSLATE_NOOP("QMainWindow", "K13:"), &Set::K13},
+      {QT_TRANSLATE_NOOP("QMainWindow", "K23:"), &Set::K23}}},
+    {{{QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>1:"), &Set::U1},
+      {QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>2:"), &Set::U2},
+      {QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>3:"), &Set::U3},
+      {QT_TRANSLATE_NOOP("QMainWindow", "Point R:"), &Set::pointRadius},
+      {QT_TRANSLATE_NOOP("QMainWindow", "Horizontal Prec:"), &Set::horizontalPrecision}}},
+    {{{QT_TRANSLATE_NOOP("QMainWindow", "U3Const Range:"), &Set::u3constRange},
+      {QT_TRANSLATE_NOOP("QMainWindow", "U3Axis Range:"), &Set::u3axisRange},
+      {QT_TRANSLATE_NOOP("QMainWindow", "U3Const Radius:"), &Set::u3constRadius},
+      {QT_TRANSLATE_NOOP("QMainWindow", "U3Axis Radius:"), &Set::u3axisRadius},
+      {QT_TRANSLATE_NOOP("QMainWindow", "Vertical Prec:"), &Set::verticalPrecision}}},
+}};
+
+template <typename SpinBox>
+QAbstractSpinBox* createSpinBox(const HyperboloidParameter& parameter, double value,
+                                QWidget* parent) {
+    auto* box = new SpinBox(parent);
+    using Number = decltype(box->value());
+    if constexpr (std::is_floating_point_v<Number>) {
+        box->setDecimals(parameter.decimals);
+    }
+    box->setRange(static_cast<Number>(parameter.minimum), static_cast<Number>(parameter.maximum));
+    box->setSingleStep(static_cast<Number>(parameter.step));
+    box->setValue(static_cast<Number>(value));
+    return box;
 }
 
-using LabelledFields = std::vector<std::pair<const char*, QWidget*>>;
+QAbstractSpinBox* createField(const HyperboloidParameter& parameter, double value,
+                              QWidget* parent) {
+    return parameter.decimals == 0 ? createSpinBox<QSpinBox>(parameter, value, parent)
+                                   : createSpinBox<QDoubleSpinBox>(parameter, value, parent);
+}
 
-/** Appends two columns to a row of columns: the labels, and beside them their fields. */
-void addColumns(QHBoxLayout* row, const LabelledFields& fields) {
-    auto* labels = new QVBoxLayout;
-    auto* widgets = new QVBoxLayout;
-    for (const auto& [text, field] : fields) {
-        labels->addWidget(new QLabel(translated(text)));
-        widgets->addWidget(field);
-    }
-    row->addLayout(labels);
-    row->addLayout(widgets);
+/** The number in a spin box of either kind. */
+double valueOf(const QAbstractSpinBox& field) {
+    return field.property("value").toDouble();
+}
+
+const char* pictureOf(HyperboloidCondition condition) {
+    return condition == HyperboloidCondition::quadric ? ":/images/err1.png" : ":/images/err2.png";
 }
 
 } // namespace
 
 HyperboloidParameterDialog::HyperboloidParameterDialog(const HyperboloidParameters& initial,
                                                        QWidget* parent)
-    : QDialog(parent)
-    , K1(createField(smallestDivisor, largest, initial.K1))
-    , K2(createField(smallestDivisor, largest, initial.K2))
-    , K3(createField(0, largest, initial.K3))
-    , K13(createField(-largest, largest, initial.K13))
-    , K23(createField(-largest, largest, initial.K23))
-    , U1(createField(-largest, largest, initial.U1))
-    , U2(createField(-largest, largest, initial.U2))
-    , U3(createField(-largest, largest, initial.U3))
-    , horizontalPrecision(createPrecisionField(initial.horizontalPrecision))
-    , verticalPrecision(createPrecisionField(initial.verticalPrecision))
-    , pointRadius(createField(0, largestPointRadius, initial.pointRadius))
-    , u3constRange(createField(0, largest, initial.u3constRange))
-    , u3axisRange(createField(0, largest, initial.u3axisRange))
-    , u3constRadius(createField(0, largest, initial.u3constRadius))
-    , u3axisRadius(createField(0, largest, initial.u3axisRadius)) {
+    : QDialog(parent) {
+    const auto& all = HyperboloidParameters::all();
+    std::transform(all.begin(), all.end(), fields.begin(), [&](const HyperboloidParameter& one) {
+        return createField(one, one.valueIn(initial), this);
+    });
     auto* layout = new QVBoxLayout;
     layout->addLayout(createColumns());
     layout->addLayout(createButtons());
@@ -63,39 +89,47 @@ HyperboloidParameterDialog::HyperboloidParameterDialog(const HyperboloidParamete
     setLayout(layout);
 }
 
-QDoubleSpinBox* HyperboloidParameterDialog::createField(double minimum, double maximum,
-                                                        double value) {
-    auto* field = new QDoubleSpinBox(this);
-    field->setRange(minimum, maximum);
-    field->setSingleStep(step);
-    field->setValue(value);
-    return field;
+std::optional<HyperboloidParameters> HyperboloidParameterDialog::ask(const HyperboloidFrame* frame,
+                                                                     QWidget* parent) {
+    const QPointer<const HyperboloidFrame> asked(frame);
+    // Refused values are not kept: each new dialog starts from the model.
+    while (asked) {
+        HyperboloidParameterDialog dialog(HyperboloidParameters::of(*asked), parent);
+        if (dialog.exec() != QDialog::Accepted) {
+            return std::nullopt;
+        }
+        const HyperboloidParameters entered = dialog.parameters();
+        const HyperboloidCondition broken = entered.brokenCondition();
+        if (broken == HyperboloidCondition::none) {
+            return asked ? std::optional(entered) : std::nullopt;
+        }
+        Messages::brokenCondition(pictureOf(broken), parent);
+        if (!parent->isVisible()) {
+            // The program is ending: the window was closed while the message was up.
+            return std::nullopt;
+        }
+    }
+    return std::nullopt;
 }
 
-QSpinBox* HyperboloidParameterDialog::createPrecisionField(int value) {
-    auto* field = new QSpinBox(this);
-    field->setRange(coarsestGrid, finestGrid);
-    field->setValue(value);
-    return field;
+QAbstractSpinBox* HyperboloidParameterDialog::fieldOf(HyperboloidParameter::Member member) const {
+    const auto& all = HyperboloidParameters::all();
+    const auto index = &HyperboloidParameter::of(member) - all.data();
+    return fields.at(static_cast<std::size_t>(index));
 }
 
 QLayout* HyperboloidParameterDialog::createColumns() {
     auto* row = new QHBoxLayout;
-    addColumns(row, {{QT_TRANSLATE_NOOP("QMainWindow", "K1 :"), K1},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "K2 :"), K2},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "K3 :"), K3},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "K13:"), K13},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "K23:"), K23}});
-    addColumns(row, {{QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>1:"), U1},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>2:"), U2},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "<html>&Ucirc;</html>3:"), U3},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "Point R:"), pointRadius},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "Horizontal Prec:"), horizontalPrecision}});
-    addColumns(row, {{QT_TRANSLATE_NOOP("QMainWindow", "U3Const Range:"), u3constRange},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "U3Axis Range:"), u3axisRange},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "U3Const Radius:"), u3constRadius},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "U3Axis Radius:"), u3axisRadius},
-                     {QT_TRANSLATE_NOOP("QMainWindow", "Vertical Prec:"), verticalPrecision}});
+    for (const Column& column : columns) {
+        auto* labels = new QVBoxLayout;
+        auto* widgets = new QVBoxLayout;
+        for (const auto& [text, member] : column) {
+            labels->addWidget(new QLabel(QCoreApplication::translate("QMainWindow", text)));
+            widgets->addWidget(fieldOf(member));
+        }
+        row->addLayout(labels);
+        row->addLayout(widgets);
+    }
     return row;
 }
 
@@ -112,21 +146,9 @@ QLayout* HyperboloidParameterDialog::createButtons() {
 }
 
 HyperboloidParameters HyperboloidParameterDialog::parameters() const {
-    HyperboloidParameters values{};
-    values.K1 = K1->value();
-    values.K2 = K2->value();
-    values.K3 = K3->value();
-    values.K13 = K13->value();
-    values.K23 = K23->value();
-    values.U1 = U1->value();
-    values.U2 = U2->value();
-    values.U3 = U3->value();
-    values.horizontalPrecision = horizontalPrecision->value();
-    values.verticalPrecision = verticalPrecision->value();
-    values.pointRadius = pointRadius->value();
-    values.u3constRange = u3constRange->value();
-    values.u3axisRange = u3axisRange->value();
-    values.u3constRadius = u3constRadius->value();
-    values.u3axisRadius = u3axisRadius->value();
+    HyperboloidParameters values;
+    for (const HyperboloidParameter& parameter : HyperboloidParameters::all()) {
+        parameter.setValueIn(values, valueOf(*fieldOf(parameter.member)));
+    }
     return values;
 }

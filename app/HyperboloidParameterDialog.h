@@ -3,10 +3,12 @@
 #include "hyperboloid/HyperboloidParameters.h"
 
 #include <QDialog>
+#include <array>
+#include <optional>
 
-class QDoubleSpinBox;
+class HyperboloidFrame;
+class QAbstractSpinBox;
 class QLayout;
-class QSpinBox;
 
 /** The modal dialog that asks for the fifteen parameters of the hyperboloid. */
 class HyperboloidParameterDialog : public QDialog {
@@ -15,28 +17,25 @@ class HyperboloidParameterDialog : public QDialog {
 public:
     HyperboloidParameterDialog(const HyperboloidParameters& initial, QWidget* parent);
 
+    /**
+     * Lets the user edit a frame's parameters until all conditions hold; a broken one is shown and
+     * a new dialog opened with the frame's own values. The frame itself is not changed.
+     *
+     * @param frame  null, with which nothing is asked, or the frame
+     * @param parent the window that the dialogs belong to, on the screen
+     * @return the accepted values; none when the user gave up, or when the frame or the parent was
+     *         closed meanwhile
+     */
+    static std::optional<HyperboloidParameters> ask(const HyperboloidFrame* frame, QWidget* parent);
+
     /** The values that the fields show now. */
     HyperboloidParameters parameters() const;
 
 private:
-    QDoubleSpinBox* createField(double minimum, double maximum, double value);
-    QSpinBox* createPrecisionField(int value);
+    QAbstractSpinBox* fieldOf(HyperboloidParameter::Member member) const;
     QLayout* createColumns();
     QLayout* createButtons();
 
-    QDoubleSpinBox* K1;
-    QDoubleSpinBox* K2;
-    QDoubleSpinBox* K3;
-    QDoubleSpinBox* K13;
-    QDoubleSpinBox* K23;
-    QDoubleSpinBox* U1;
-    QDoubleSpinBox* U2;
-    QDoubleSpinBox* U3;
-    QSpinBox* horizontalPrecision;
-    QSpinBox* verticalPrecision;
-    QDoubleSpinBox* pointRadius;
-    QDoubleSpinBox* u3constRange;
-    QDoubleSpinBox* u3axisRange;
-    QDoubleSpinBox* u3constRadius;
-    QDoubleSpinBox* u3axisRadius;
+    /** In the order of HyperboloidParameters::all(), which is also that of the tab key. */
+    std::array<QAbstractSpinBox*, HyperboloidParameters::count> fields;
 };

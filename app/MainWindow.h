@@ -1,22 +1,20 @@
 #pragma once
 
-#include "app/Actions.h"
-#include "app/Menus.h"
+#include "app/ActiveFrames.h"
+#include "app/Commands.h"
+#include "app/Documents.h"
+#include "app/StatusLabels.h"
+#include "app/WindowMenu.h"
 #include "viewer/FrameOwner.h"
-#include "viewer/SoQtGeneralViewerFrame.h"
 
 #include <QMainWindow>
-#include <QPointer>
-#include <array>
 #include <cstdio>
-#include <vector>
+#include <memory>
 
 class HelixFrame;
 class HyperboloidFrame;
-class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
-class QSignalMapper;
 class SoNode;
 class SoQtExaminerViewer;
 
@@ -24,9 +22,8 @@ class SoQtExaminerViewer;
  * The program's one window: a menu bar, a document area with a sub-window per frame, a status bar.
  *
  * Three hyperboloid frames (U, X and M space) stay from setUpMainViewer() to the end; helix frames
- * come and go. The window creates frames, keeps track of the active one, and carries the user's
- * commands to them; the work itself is done by the frames and by the dialogs and exports beside
- * this class.
+ * come and go. The window carries the user's commands and the frames' reports to where the work is
+ * done: the documents, the dialogs and the exports beside this class.
  */
 class MainWindow : public QMainWindow, public FrameOwner {
     Q_OBJECT
@@ -48,7 +45,7 @@ public:
     void viewerTitleChanged() override;
 
     /** Number of helix frames alive. */
-    int getHelixCount() const { return helixCount; }
+    int getHelixCount() const { return documents.helixCount(); }
 
     /**
      * Checks the conditions on K1, K2, K3, K13, K23, the first one first.
@@ -122,29 +119,11 @@ private:
     void writeSettings();
     QMdiSubWindow* findMdiChild(const QString& title);
     SoQtGeneralViewerFrame* activeMdiChild();
-    HelixFrame* currentHelix() const;
-    /**
-     * The hyperboloid frames that exist, in the order U, X, M: none before setUpMainViewer(), nor
-     * when the window went on after a helix had refused to be closed with it.
-     */
-    std::vector<HyperboloidFrame*> openHyperboloids() const;
-    /** Initialises a new frame, titles its viewer and takes it into the document area, hidden. */
-    void addDocument(SoQtGeneralViewerFrame* frame, const char* viewerTitle);
 
-    QMdiArea* mdiArea = nullptr;
-    QSignalMapper* windowMapper = nullptr;
-    Menus menus;
-    Actions actions;
-    std::array<QPointer<HyperboloidFrame>, 3> hyperboloidFrames;
-    /**
-     * Two frames that are never shown. They take the numbers 0 and 1, so that the first visible
-     * frame is "Viewer 2" and closeAllSubWindows() never meets number 0, and the bookkeeping of the
-     * active frame has two frames to compare from the start.
-     */
-    std::array<SoQtGeneralViewerFrame, 2> placeholders;
-    QPointer<SoQtGeneralViewerFrame> currentFrame;
-    QPointer<SoQtGeneralViewerFrame> previousFrame;
-    int helixCount = 0;
-    QLabel* steeredHelixLabel = nullptr;
-    QLabel* viewerTitleLabel = nullptr;
+    QMdiArea* mdiArea;
+    ActiveFrames activeFrames;
+    Documents documents;
+    StatusLabels statusLabels;
+    Commands commands;
+    std::unique_ptr<WindowMenu> windowMenu;
 };

@@ -2,6 +2,7 @@
 
 #include "resources/TorvaneResources.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
@@ -34,6 +35,14 @@ void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
     layout->addWidget(ok);
     box.setLayout(layout);
     box.exec();
+}
+
+void Messages::about(QWidget* parent) {
+    QMessageBox::about(
+        parent, QCoreApplication::translate("MainWindow", "About MDI"),
+        QCoreApplication::translate("MainWindow",
+                                    "The <b>Lumarin</b> example shows how to use multiple Coin3D "
+                                    "viewers with SoQt."));
 }
 
 void Messages::warn(const QString& text, QWidget* parent) {

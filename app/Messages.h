@@ -13,6 +13,9 @@ void selectHelixViewer();
 /** Shows the picture of a condition that the parameters break; returns when the box is closed. */
 void brokenCondition(const char* picturePath, QWidget* parent);
 
+/** Says what the program is; returns when the box is closed. */
+void about(QWidget* parent);
+
 /** Shows a warning; returns when the box is closed. */
 void warn(const QString& text, QWidget* parent);
 

@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
-#include <vector>
 
 class QLabel;
-class QObject;
 class QSlider;
 class QSpinBox;
 class QWidget;
@@ -18,12 +17,7 @@ struct SliderRow {
     /** Makes the three widgets as children of the window, spin box and slider with one range. */
     static SliderRow create(QWidget* window, const QString& text, int minimum, int maximum);
 
-    /** Lays the rows out on the window as three columns: labels, spin boxes, sliders. */
-    static void layOut(QWidget* window, const std::vector<SliderRow>& rows);
-
-    /**
-     * Makes a parentless window of rows go away with its closing or with its receiver, and never
-     * keep the program alive.
+    /** Lets the slider follow a signal of the spin box, and the spin box every move of the slider.
      */
-    static void tieLifeTo(QWidget* window, const QObject* receiver);
+    void follow(const char* spinBoxSignal = SIGNAL(valueChanged(int))) const;
 };

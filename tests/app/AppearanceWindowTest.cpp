@@ -4,7 +4,6 @@
 #include "tests/support/SceneReader.h"
 #include "tests/support/SliderWindow.h"
 
-#include <QBoxLayout>
 #include <QSignalBlocker>
 #include <gtest/gtest.h>
 
@@ -91,24 +90,6 @@ TEST(AppearanceWindowTest, IsAWindowOfItsOwnWithThreeRows) {
         EXPECT_EQ(window.slider(row).maximum(), 100);
         EXPECT_EQ(window.slider(row).singleStep(), 1);
         EXPECT_EQ(window.slider(row).orientation(), Qt::Horizontal);
-    }
-}
-
-TEST(AppearanceWindowTest, LabelsSpinBoxesAndSlidersStandInThreeColumns) {
-    const OpenedWindow opened;
-    const SliderWindow window = openAppearanceWindow(opened);
-    auto* columns = qobject_cast<QHBoxLayout*>(window.widget().layout());
-    ASSERT_NE(columns, nullptr);
-    ASSERT_EQ(columns->count(), 3);
-    for (int column = 0; column < columns->count(); ++column) {
-        auto* rows = qobject_cast<QVBoxLayout*>(columns->itemAt(column)->layout());
-        ASSERT_NE(rows, nullptr);
-        ASSERT_EQ(rows->count(), rowCount);
-        for (int row = 0; row < rowCount; ++row) {
-            const QWidget* inColumn[]{&window.label(row), &window.spinBox(row),
-                                      &window.slider(row)};
-            EXPECT_EQ(rows->itemAt(row)->widget(), inColumn[column]);
-        }
     }
 }
 

@@ -4,7 +4,6 @@
 #include "tests/support/ReplacementCounter.h"
 #include "tests/support/SliderWindow.h"
 
-#include <QBoxLayout>
 #include <QMessageBox>
 #include <QSignalBlocker>
 #include <QStyleOptionSlider>
@@ -64,66 +63,6 @@ TEST(HelixWindowTest, IsAWindowOfItsOwnWithoutATitle) {
     EXPECT_EQ(window.widget().parent(), nullptr);
     EXPECT_EQ(window.widget().windowTitle(), "");
     EXPECT_EQ(window.widget().windowModality(), Qt::NonModal);
-}
-
-TEST(HelixWindowTest, RowsHaveTheirLabelsAndRanges) {
-    struct Expected {
-        const char* label;
-        int minimum;
-        int maximum;
-    };
-    const std::vector<Expected> expected{{"&Tube Radius:", 0, 1000},
-                                         {"&Ribbon Range:", 0, 2000},
-                                         {"&Number of Turns:", 0, 10},
-                                         {"&Precision Line:", 5, 200},
-                                         {"&Precision Tube:", 5, 100}};
-    const OpenedWindow opened;
-    const SliderWindow window = openHelixWindow(opened);
-    ASSERT_EQ(window.column<QLabel>().size(), rowCount);
-    ASSERT_EQ(window.column<QSpinBox>().size(), rowCount);
-    ASSERT_EQ(window.column<QSlider>().size(), rowCount);
-    for (int row = 0; row < rowCount; ++row) {
-        const auto& [label, minimum, maximum] = expected[static_cast<std::size_t>(row)];
-        EXPECT_EQ(window.label(row).text(), label);
-        EXPECT_EQ(window.label(row).buddy(), &window.spinBox(row));
-        EXPECT_EQ(window.spinBox(row).minimum(), minimum);
-        EXPECT_EQ(window.spinBox(row).maximum(), maximum);
-        EXPECT_EQ(window.spinBox(row).singleStep(), 1);
-        EXPECT_EQ(window.slider(row).minimum(), minimum);
-        EXPECT_EQ(window.slider(row).maximum(), maximum);
-        EXPECT_EQ(window.slider(row).orientation(), Qt::Horizontal);
-    }
-}
-
-TEST(HelixWindowTest, LabelsSpinBoxesAndSlidersStandInThreeColumns) {
-    const OpenedWindow opened;
-    const SliderWindow window = openHelixWindow(opened);
-    auto* columns = qobject_cast<QHBoxLayout*>(window.widget().layout());
-    ASSERT_NE(columns, nullptr);
-    ASSERT_EQ(columns->count(), 3);
-    for (int column = 0; column < columns->count(); ++column) {
-        auto* rows = qobject_cast<QVBoxLayout*>(columns->itemAt(column)->layout());
-        ASSERT_NE(rows, nullptr);
-        ASSERT_EQ(rows->count(), rowCount);
-        for (int row = 0; row < rowCount; ++row) {
-            const QWidget* inColumn[]{&window.label(row), &window.spinBox(row),
-                                      &window.slider(row)};
-            EXPECT_EQ(rows->itemAt(row)->widget(), inColumn[column]);
-            EXPECT_EQ(rows->stretch(row), 0);
-            EXPECT_EQ(rows->itemAt(row)->alignment(), Qt::Alignment());
-        }
-    }
-}
-
-TEST(HelixWindowTest, EveryLabelAndSpinBoxIsReadableAtOnce) {
-    const OpenedWindow opened;
-    const SliderWindow window = openHelixWindow(opened);
-    for (QWidget* widget :
-         window.widget().findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        EXPECT_TRUE(window.widget().rect().contains(widget->geometry()));
-        EXPECT_GE(widget->width(), widget->minimumSizeHint().width());
-        EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
-    }
 }
 
 TEST(HelixWindowTest, ShowsAFreshHelixTruncatedAndTakesTheTruncatedLengthsOver) {
@@ -275,22 +214,6 @@ TEST(HelixWindowTest, ViewFollowsWhileTheSliderIsDragged) {
         before = view.grab();
     }
     QTest::mouseRelease(&slider, Qt::LeftButton, Qt::NoModifier, handle);
-}
-
-TEST(HelixWindowTest, MnemonicsFocusTheSpinBoxes) {
-    const OpenedWindow opened;
-    const SliderWindow window = openHelixWindow(opened);
-    window.widget().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.widget(), patience));
-    const std::vector<std::pair<Qt::Key, int>> letters{{Qt::Key_R, ribbonRange},
-                                                       {Qt::Key_N, turns},
-                                                       {Qt::Key_T, tubeRadius},
-                                                       {Qt::Key_P, precisionLine},
-                                                       {Qt::Key_P, precisionTube}};
-    for (const auto& [letter, row] : letters) {
-        QTest::keyClick(&window.widget(), letter, Qt::AltModifier);
-        EXPECT_TRUE(window.spinBox(row).hasFocus()) << "row " << row;
-    }
 }
 
 TEST(HelixWindowTest, ActsOnTheHelixThatIsCurrentNow) {

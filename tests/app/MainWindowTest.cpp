@@ -4,7 +4,6 @@
 #include "tests/support/SceneReader.h"
 
 #include <QApplication>
-#include <QColor>
 #include <QSettings>
 #include <QStatusBar>
 #include <QWindow>
@@ -38,12 +37,6 @@ public:
 
 void clearSettings() {
     QSettings("Trolltech", "MDI Viewer").clear();
-}
-
-void store(const QVariant& position, const QVariant& size) {
-    QSettings settings("Trolltech", "MDI Viewer");
-    settings.setValue("pos", position);
-    settings.setValue("size", size);
 }
 
 /** Expects where a new window opens. */
@@ -80,32 +73,6 @@ TEST(MainWindowTest, OpensWhereItWasClosed) {
     EXPECT_EQ(settings.value("pos").toPoint(), QPoint(31, 41));
     EXPECT_EQ(settings.value("size").toSize(), QSize(592, 653));
     expectOpensAt(QPoint(31, 41), QSize(592, 653));
-    clearSettings();
-}
-
-TEST(MainWindowTest, UnreadableSettingsFallBackToTheDefaults) {
-    const std::vector<QVariant> unreadable{
-        "garbage",  "@Point(31)",   QStringList{"31", "41"}, 7, QByteArray("\x01\x02"),
-        QVariant(), QColor(Qt::red)};
-    for (const QVariant& value : unreadable) {
-        SCOPED_TRACE(value.typeName());
-        store(value, value);
-        expectOpensAt(QPoint(200, 200), QSize(400, 400));
-    }
-    clearSettings();
-}
-
-TEST(MainWindowTest, PlaceAndSizeOfEachOthersKindFallBackToTheDefaults) {
-    store(QSize(592, 653), QPoint(31, 41));
-    expectOpensAt(QPoint(200, 200), QSize(400, 400));
-    clearSettings();
-}
-
-TEST(MainWindowTest, SizeThatIsNoneFallsBackToTheDefaultAloneAndKeepsThePlace) {
-    for (const QSize size : {QSize(), QSize(-5, 300), QSize(300, -5)}) {
-        store(QPoint(31, 41), size);
-        expectOpensAt(QPoint(31, 41), QSize(400, 400));
-    }
     clearSettings();
 }
 
@@ -199,6 +166,18 @@ TEST(MainWindowTest, ActivatingAHyperboloidRightAfterAHelixTiesThem) {
     opened.activate(second);
     opened.activate(x);
     EXPECT_EQ(x.GetPreviousHelix(), &second);
+}
+
+TEST(MainWindowTest, NoActiveFrameBetweenAHelixAndAHyperboloidTiesThemToo) {
+    const OpenedWindow opened;
+    opened.activate(opened.firstHelix());
+    opened.area().setActiveSubWindow(nullptr);
+    opened.hyperboloid(Hyperboloid::USPACE).PrevHelixDead();
+    opened.activate(opened.hyperboloid(Hyperboloid::MSPACE));
+    EXPECT_EQ(opened.hyperboloid(Hyperboloid::MSPACE).GetPreviousHelix(), &opened.firstHelix());
+    for (const int other : {Hyperboloid::USPACE, Hyperboloid::XSPACE}) {
+        EXPECT_EQ(opened.hyperboloid(other).GetPreviousHelix(), nullptr) << "space " << other;
+    }
 }
 
 TEST(MainWindowTest, ActivatingAHyperboloidAfterAnotherTiesNothing) {

@@ -5,7 +5,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMetaMethod>
 #include <gtest/gtest.h>
 
 namespace {
@@ -36,73 +35,6 @@ QList<QAction*> windowEntries(const OpenedWindow& opened) {
 
 } // namespace
 
-TEST(MenusTest, MenuBarHoldsTheMenusInOrder) {
-    const OpenedWindow opened;
-    EXPECT_EQ(texts(opened.window().menuBar()->actions()),
-              (QStringList{"&Viewer", "&Window", "Edit Hyperboloid", "Edit Helix", "Save Data", "-",
-                           "&Help"}));
-    EXPECT_EQ(texts(menu(opened, "&Viewer").actions()), (QStringList{"&New", "-", "E&xit"}));
-    EXPECT_EQ(texts(menu(opened, "Edit Hyperboloid").actions()),
-              (QStringList{"Change Appearance", "Change Parameters"}));
-    EXPECT_EQ(texts(menu(opened, "Edit Helix").actions()), (QStringList{"Change Parameters"}));
-    EXPECT_EQ(texts(menu(opened, "Save Data").actions()),
-              (QStringList{"U Hyperboloid", "X Hyperboloid", "M Hyperboloid", "Helix"}));
-    EXPECT_EQ(texts(menu(opened, "&Help").actions()), (QStringList{"&About", "About &Qt"}));
-}
-
-TEST(MenusTest, ActionsHaveTheirTextsShortcutsAndStatusTips) {
-    struct Expected {
-        const char* name;
-        const char* text;
-        QList<QKeySequence> shortcuts;
-        const char* tip;
-    };
-    const OpenedWindow opened;
-    const auto standard = [](QKeySequence::StandardKey key) {
-        return QKeySequence::keyBindings(key);
-    };
-    const QList<QKeySequence> none;
-    const std::vector<Expected> all{
-        {"newAct", "&New", standard(QKeySequence::New), "Create a new viewer"},
-        {"exitAct", "E&xit", standard(QKeySequence::Quit), "Exit the application"},
-        {"closeAct", "Cl&ose", none, "Close the active window"},
-        {"closeAllAct", "Close &All", none, "Close all the windows"},
-        {"tileAct", "&Tile", {QKeySequence("Ctrl+T")}, "Tile the windows"},
-        {"cascadeAct", "&Cascade", none, "Cascade the windows"},
-        {"nextAct", "Ne&xt", standard(QKeySequence::NextChild),
-         "Move the focus to the next window"},
-        {"previousAct", "Pre&vious", standard(QKeySequence::PreviousChild),
-         "Move the focus to the previous window"},
-        {"appearanceAct", "Change Appearance", none, ""},
-        {"hyperboloidParamsAct", "Change Parameters", {QKeySequence("Ctrl+P")}, ""},
-        {"helixParamsAct", "Change Parameters", none, ""},
-        {"saveHelixAct", "Helix", none, ""},
-        {"saveUAct", "U Hyperboloid", none, ""},
-        {"saveXAct", "X Hyperboloid", none, ""},
-        {"saveMAct", "M Hyperboloid", none, ""},
-        {"saveImageAct", "Image", none, ""},
-        {"aboutAct", "&About", none, "Show the application's About box"},
-        {"aboutQtAct", "About &Qt", none, "Show the Qt library's About box"}};
-    for (const Expected& expected : all) {
-        const QAction& action = opened.action(expected.name);
-        EXPECT_EQ(action.text(), expected.text);
-        EXPECT_EQ(action.shortcuts(), expected.shortcuts) << expected.name;
-        EXPECT_EQ(action.statusTip(), expected.tip);
-        EXPECT_EQ(action.parent(), &opened.window());
-    }
-    EXPECT_TRUE(opened.action("separatorAct").isSeparator());
-}
-
-TEST(MenusTest, NewActionHasNoPicture) {
-    const OpenedWindow opened;
-    EXPECT_TRUE(opened.action("newAct").icon().pixmap(16).isNull());
-}
-
-TEST(MenusTest, ImageActionIsInNoMenu) {
-    const OpenedWindow opened;
-    EXPECT_TRUE(opened.action("saveImageAct").associatedWidgets().isEmpty());
-}
-
 TEST(MenusTest, WindowMenuListsTheFramesInOrderAndChecksTheActiveOne) {
     const OpenedWindow opened;
     opened.activate(opened.hyperboloid(Hyperboloid::XSPACE));
@@ -119,15 +51,6 @@ TEST(MenusTest, WindowMenuListsTheFramesInOrderAndChecksTheActiveOne) {
         EXPECT_TRUE(entries[i]->isCheckable());
         EXPECT_EQ(entries[i]->isChecked(), i == 10);
     }
-}
-
-TEST(MenusTest, TenthEntryHasItsMnemonicToo) {
-    const OpenedWindow opened;
-    for (int i = 0; i < 6; ++i) {
-        opened.action("newAct").trigger();
-    }
-    const QList<QAction*> entries = windowEntries(opened);
-    EXPECT_EQ(entries.last()->text(), "&10 " + opened.frames().back()->windowTitle());
 }
 
 TEST(MenusTest, WindowEntryActivatesItsFrame) {
@@ -162,14 +85,6 @@ TEST(MenusTest, WindowCommandsNeedAnActiveFrame) {
     EXPECT_TRUE(opened.action("previousAct").isEnabled());
     opened.activate(opened.firstHelix());
     expectEnabled(true);
-}
-
-TEST(MenusTest, EverythingButNewAndExitIsDisabledWithoutDocuments) {
-    const MainWindow window;
-    for (const char* name :
-         {"closeAct", "closeAllAct", "tileAct", "cascadeAct", "nextAct", "previousAct"}) {
-        EXPECT_FALSE(window.findChild<QAction*>(name)->isEnabled()) << name;
-    }
 }
 
 TEST(MenusTest, NextAndPreviousNeedASecondFrame) {
@@ -239,51 +154,4 @@ TEST(MenusTest, AboutQtBoxOpens) {
             box.accept();
         })
         .during([&] { opened.action("aboutQtAct").trigger(); });
-}
-
-TEST(MenusTest, SlotsStandInTheirOrder) {
-    const QMetaObject& meta = MainWindow::staticMetaObject;
-    QStringList signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        EXPECT_EQ(meta.method(i).methodType(), QMetaMethod::Slot);
-        EXPECT_EQ(meta.method(i).access(), QMetaMethod::Private);
-        signatures << meta.method(i).methodSignature();
-    }
-    EXPECT_EQ(signatures, (QStringList{"newViewer()",
-                                       "about()",
-                                       "updateMenus()",
-                                       "updateWindowMenu()",
-                                       "createHelix(bool)",
-                                       "createHelix()",
-                                       "createHyperboloid(int,const char*)",
-                                       "setActiveSubWindow(QWidget*)",
-                                       "closeAllSubWindows()",
-                                       "changeHyperboloidColor()",
-                                       "changeHyperboloidTransparency()",
-                                       "changeHyperboloidParameters()",
-                                       "refreshHyperboloidTransp(int)",
-                                       "refreshHyperboloidLight(int)",
-                                       "refreshHyperboloidSat(int)",
-                                       "setHelixParameters()",
-                                       "helix_change_radius(int)",
-                                       "helix_change_range(int)",
-                                       "helix_change_nturns(int)",
-                                       "helix_change_precision_line(int)",
-                                       "helix_change_precision_tube(int)",
-                                       "saveHelixData()",
-                                       "saveUHyperboloidData()",
-                                       "saveXHyperboloidData()",
-                                       "saveMHyperboloidData()",
-                                       "saveCurrentImage()",
-                                       "saveObjData(SoQtGeneralViewerFrame*,bool)"}));
-    EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
-}
-
-TEST(MenusTest, FramesAddNothingToTheirMetaObjects) {
-    for (const QMetaObject* meta :
-         {&SoQtGeneralViewerFrame::staticMetaObject, &HelixFrame::staticMetaObject,
-          &HyperboloidFrame::staticMetaObject}) {
-        EXPECT_EQ(meta->methodCount(), meta->methodOffset());
-        EXPECT_EQ(meta->propertyCount(), meta->propertyOffset());
-    }
 }

@@ -1,0 +1,97 @@
+#include "app/DocumentSaving.h"
+
+#include "tests/app/BareFrames.h"
+#include "tests/reference/PlainDataExport.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/FileDialogs.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+class DocumentSavingTest : public testing::Test {
+protected:
+    QByteArray contentOf(const QString& name) const {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+
+    QStringList names() const { return QDir(folder.path()).entryList(QDir::Files); }
+
+    QTemporaryDir folder;
+    QWidget parent;
+    std::unique_ptr<HyperboloidFrame> x = BareFrames::hyperboloid(Hyperboloid::XSPACE);
+    std::unique_ptr<HelixFrame> helix = BareFrames::helix();
+};
+
+QByteArray plainText(const Hyperboloid& model) {
+    std::ostringstream text;
+    PlainDataExport::writeHyperboloid(text, model);
+    return QByteArray::fromStdString(text.str());
+}
+
+QByteArray plainText(const HelixFrame& frame) {
+    std::ostringstream text;
+    PlainDataExport::writeHelix(text, frame.getHelix());
+    return QByteArray::fromStdString(text.str());
+}
+
+} // namespace
+
+TEST_F(DocumentSavingTest, EitherKindOfFrameIsWrittenAndReplacesWhatWasThere) {
+    const QString path = folder.filePath("one.txt");
+    DocumentSaving::writeText(path, *x, true);
+    EXPECT_EQ(contentOf("one.txt"), plainText(*x));
+    DocumentSaving::writeText(path, *helix, false);
+    EXPECT_EQ(contentOf("one.txt"), plainText(*helix));
+}
+
+TEST_F(DocumentSavingTest, FileThatCannotBeOpenedIsNotReported) {
+    DocumentSaving::writeText(folder.filePath("missing/folder/file.txt"), *x, true);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(DocumentSavingTest, ChosenFileGetsTheTextAndItsSuffix) {
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.parent(), &parent);
+            FileDialogs::saveAs(dialog, folder.filePath("name"));
+        })
+        .during([&] { DocumentSaving::saveText(helix.get(), false, &parent); });
+    EXPECT_EQ(names(), QStringList("name.txt"));
+    EXPECT_EQ(contentOf("name.txt"), plainText(*helix));
+}
+
+TEST_F(DocumentSavingTest, FrameThatDiesWhileTheUserChoosesLeavesNoFile) {
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            x.reset();
+            FileDialogs::saveAs(dialog, folder.filePath("dead.txt"));
+        })
+        .during([&] { DocumentSaving::saveText(x.get(), true, &parent); });
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(DocumentSavingTest, WithoutAFrameNothingIsAskedForText) {
+    DialogDriver().during([&] { DocumentSaving::saveText(nullptr, true, &parent); });
+}
+
+TEST_F(DocumentSavingTest, ImageNeedsAFrameWithAViewer) {
+    for (SoQtGeneralViewerFrame* frame : {static_cast<SoQtGeneralViewerFrame*>(nullptr),
+                                          static_cast<SoQtGeneralViewerFrame*>(helix.get())}) {
+        DialogDriver()
+            .then<QMessageBox>([&](QMessageBox& box) {
+                EXPECT_EQ(box.text(), "Select a Viewer");
+                EXPECT_EQ(box.icon(), QMessageBox::Warning);
+                EXPECT_EQ(box.parent(), &parent);
+                box.accept();
+            })
+            .during([&] { DocumentSaving::saveImage(frame, &parent); });
+    }
+}
