@@ -25,7 +25,7 @@ void waitUntilExposed(const QWidget& widget) {
 
 QPixmap StartUp::splashPicture() {
     registerTorvaneResources();
-    return QPixmap(":/images/splash.png");
+    return {":/images/splash.png"};
 }
 
 void StartUp::showSplash(QSplashScreen& splash) {

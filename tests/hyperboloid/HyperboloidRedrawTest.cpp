@@ -10,6 +10,7 @@ namespace {
 class CountedFrames {
 public:
     CountedFrames() {
+        opened.showSideBySide();
         LinkedFrames::tie(opened.firstHelix(), opened.hyperboloid(Hyperboloid::USPACE));
         drawings();
     }

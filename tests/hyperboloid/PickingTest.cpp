@@ -146,7 +146,10 @@ constexpr SoMouseButtonEvent::Button middleButton = SoMouseButtonEvent::BUTTON3;
 /** The space's frame, with the first helix tied to it. */
 class PickingIn : public testing::TestWithParam<int> {
 protected:
-    PickingIn() { LinkedFrames::tie(helix, frame); }
+    PickingIn() {
+        opened.showSideBySide();
+        LinkedFrames::tie(helix, frame);
+    }
 
     const LinkedFrames opened;
     HyperboloidFrame& frame = opened.hyperboloid(GetParam());

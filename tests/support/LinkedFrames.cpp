@@ -27,7 +27,6 @@ LinkedFrames::LinkedFrames() {
     for (const auto& frame : hyperboloids) {
         frame->addNewSphere(helix->getName(), 0);
     }
-    showSideBySide();
 }
 
 std::vector<SoQtGeneralViewerFrame*> LinkedFrames::frames() const {

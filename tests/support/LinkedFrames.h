@@ -37,9 +37,10 @@ public:
         hyperboloid.SetPreviousHelix(&steered);
     }
 
-private:
+    /** Puts the frames on the screen side by side, and waits until they are drawn. */
     void showSideBySide() const;
 
+private:
     RecordingOwner recorder;
     std::array<std::unique_ptr<HyperboloidFrame>, 3> hyperboloids;
     std::unique_ptr<HelixFrame> helix;
