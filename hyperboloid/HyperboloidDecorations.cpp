@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int tubeRings = 2;
+constexpr int tubePoints = tubeRings * Ring::pointCount;
 
 constexpr int coneApex = 0;
 constexpr int coneBaseCenter = Ring::pointCount + 1;
@@ -111,7 +112,7 @@ SoSeparator* HyperboloidDecorations::createTubeLine(Vecteur A, Vecteur B, float 
     const Triple along = toTriple(direction);
 
     std::vector<FloatTriple> points;
-    points.reserve(tubeRings * Ring::pointCount);
+    points.reserve(tubePoints);
     for (int i = 0; i < tubeRings; ++i) {
         const Triple center = start + i * along;
         for (const auto& [cosine, sine] : Ring::directions()) {
@@ -199,7 +200,7 @@ SoSeparator* HyperboloidDecorations::createCenter(const HyperboloidSpaces& space
 
 SoSeparator* HyperboloidDecorations::createAxisGlyph(double halfLength, double radius) {
     std::vector<FloatTriple> points;
-    points.reserve(tubeRings * Ring::pointCount);
+    points.reserve(tubePoints);
     for (const double end : {halfLength, -halfLength}) {
         for (const auto& [cosine, sine] : Ring::directions()) {
             points.push_back(narrowed({radius * cosine, radius * sine, end}));

@@ -23,7 +23,14 @@ public:
         init_tables();
         generateHyperboloidPoints(true, true);
     }
-    std::vector<float>& coordinates() { return vertices; }
+
+    /** Replaces the coordinates one after the other, each by `next` of what it was. */
+    template <typename Next>
+    void replaceCoordinates(Next next) {
+        for (FloatTriple& vertex : vertices) {
+            vertex = {next(vertex.x), next(vertex.y), next(vertex.z)};
+        }
+    }
 };
 
 std::string textOf(const Hyperboloid& model) {
@@ -103,9 +110,7 @@ TEST(DataText, LargestGridHasALineForEveryVertex) {
 TEST(DataText, AnyFloatIsWrittenAsAStreamWritesIt) {
     WrittenModel model(200, 200);
     std::mt19937 random(3);
-    for (float& value : model.coordinates()) {
-        value = anyFloat(random);
-    }
+    model.replaceCoordinates([&](float) { return anyFloat(random); });
     EXPECT_EQ(textOf(model), plainTextOf(model));
 }
 
@@ -113,9 +118,9 @@ TEST(DataText, OrdinaryFloatsAreWrittenAsAStreamWritesThem) {
     WrittenModel model(300, 300);
     std::mt19937 random(4);
     std::uniform_real_distribution<float> exponent(-14, 9);
-    for (float& value : model.coordinates()) {
-        value = std::pow(10.0F, exponent(random)) * (random() % 2 == 0 ? 1.0F : -1.0F);
-    }
+    model.replaceCoordinates([&](float) {
+        return std::pow(10.0F, exponent(random)) * (random() % 2 == 0 ? 1.0F : -1.0F);
+    });
     EXPECT_EQ(textOf(model), plainTextOf(model));
 }
 
@@ -142,7 +147,10 @@ TEST(DataText, TiesAndEdgesAreWrittenAsAStreamWritesThem) {
         edges.push_back(std::ldexp(static_cast<float>(i), -11));
         edges.push_back(std::ldexp(static_cast<float>(-i), -35));
     }
-    std::copy(edges.begin(), edges.end(), model.coordinates().begin());
+    auto edge = edges.begin();
+    model.replaceCoordinates(
+        [&](float present) { return edge == edges.end() ? present : *edge++; });
+    ASSERT_TRUE(edge == edges.end());
     EXPECT_EQ(textOf(model), plainTextOf(model));
     EXPECT_NE(textOf(model).find("-0.0000000000"), std::string::npos);
     EXPECT_NE(textOf(model).find("nan"), std::string::npos);
