@@ -172,7 +172,9 @@ TEST(MainWindowTest, NoActiveFrameBetweenAHelixAndAHyperboloidTiesThemToo) {
     const OpenedWindow opened;
     opened.activate(opened.firstHelix());
     opened.area().setActiveSubWindow(nullptr);
-    opened.hyperboloid(Hyperboloid::USPACE).PrevHelixDead();
+    for (int space = 0; space < 3; ++space) {
+        opened.hyperboloid(space).PrevHelixDead();
+    }
     opened.activate(opened.hyperboloid(Hyperboloid::MSPACE));
     EXPECT_EQ(opened.hyperboloid(Hyperboloid::MSPACE).GetPreviousHelix(), &opened.firstHelix());
     for (const int other : {Hyperboloid::USPACE, Hyperboloid::XSPACE}) {
