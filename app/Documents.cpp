@@ -74,9 +74,7 @@ HyperboloidFrame* Documents::createHyperboloid(int space, const char* viewerTitl
 
 HelixFrame* Documents::createHelix(bool closable) {
     const Hyperboloid& u = *trio.of(Hyperboloid::USPACE);
-    auto* frame =
-        new HelixFrame(u.getVertex(0, 0), u.getVertex(0, 1), u.getVertex(0, 2), u.getColor(0, 0),
-                       u.getColor(0, 1), u.getColor(0, 2), 0, closable, &owner);
+    auto* frame = new HelixFrame(u.surfaceVertex(0), closable, &owner);
     addFrame(frame, "Helix Viewer");
     ++livingHelices;
     return frame;

@@ -30,11 +30,9 @@ std::vector<HyperboloidFrame*> HyperboloidTrio::open() const {
     return found;
 }
 
-void HyperboloidTrio::setParameters(const HyperboloidParameters& p) {
+void HyperboloidTrio::setParameters(const HyperboloidParameters& parameters) {
     for (HyperboloidFrame* frame : open()) {
-        frame->set_parameters(p.K1, p.K2, p.K3, p.K13, p.K23, p.U1, p.U2, p.U3,
-                              p.horizontalPrecision, p.verticalPrecision, p.pointRadius,
-                              p.u3constRange, p.u3axisRange, p.u3constRadius, p.u3axisRadius);
+        frame->setParameters(parameters);
         frame->reDraw(true, true);
     }
 }
