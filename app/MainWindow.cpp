@@ -44,7 +44,7 @@ void MainWindow::createActions() {
 }
 
 void MainWindow::createMenus() {
-    windowMenu = std::make_unique<WindowMenu>(*commands.addMenus(menuBar()), *mdiArea);
+    windowMenu = std::make_unique<WindowMenu>(*commands.addMenus(menuBar()), *mdiArea, this);
     connect(&windowMenu->mapper(), SIGNAL(mapped(QWidget*)), this,
             SLOT(setActiveSubWindow(QWidget*)));
     updateWindowMenu();

@@ -5,19 +5,21 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 
-WindowMenu::WindowMenu(QMenu& menu, const QMdiArea& documentArea)
+WindowMenu::WindowMenu(QMenu& menu, const QMdiArea& documentArea, QObject* owner)
     : windowMenu(menu)
-    , area(documentArea) {}
+    , area(documentArea)
+    , commands(menu.actions())
+    , windowMapper(owner) {}
 
 void WindowMenu::update() {
-    qDeleteAll(entries);
-    entries.clear();
+    windowMenu.clear();
+    windowMenu.addActions(commands);
     const QString text = QCoreApplication::translate("MainWindow", "&%1 %2");
+    int position = 0;
     for (QMdiSubWindow* subWindow : area.subWindowList()) {
-        const int position = entries.size() + 1;
+        ++position;
         QAction* entry =
             windowMenu.addAction(text.arg(position).arg(subWindow->widget()->windowTitle()));
-        entries.append(entry);
         entry->setCheckable(true);
         entry->setChecked(subWindow == area.activeSubWindow());
         QObject::connect(entry, SIGNAL(triggered()), &windowMapper, SLOT(map()));

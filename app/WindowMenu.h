@@ -10,12 +10,16 @@ class QMenu;
 /** The menu that lists the open documents below its commands and lets the user jump to one. */
 class WindowMenu {
 public:
-    /** The list goes below what the menu holds, which stays. */
-    WindowMenu(QMenu& menu, const QMdiArea& documentArea);
+    /**
+     * The list goes below what the menu holds now, which stays.
+     *
+     * @param owner the object that owns the menu's commands, and the mapper as well
+     */
+    WindowMenu(QMenu& menu, const QMdiArea& documentArea, QObject* owner);
 
     /**
-     * Lists the documents anew, in the order of their creation: "&1 " and the frame's title, the
-     * active one checked.
+     * Empties the menu and fills it anew: the commands, then the documents in the order of their
+     * creation, each as "&1 " and the frame's title, the active one checked.
      */
     void update();
 
@@ -27,6 +31,6 @@ public:
 private:
     QMenu& windowMenu;
     const QMdiArea& area;
-    QList<QAction*> entries;
+    const QList<QAction*> commands;
     QSignalMapper windowMapper;
 };

@@ -48,7 +48,7 @@ Helix::Helix(float x, float y, float turns, unsigned int tubePrecision, bool fro
         radius = r_from_k_t();
         pitch = p_from_k_t();
     }
-    omega = 1 / std::sqrt(radius * radius + pitch * pitch);
+    updateOmega();
     constexpr double verticesPerTurn = 50.0;
     nbLineVertices = truncatedCount(turns * verticesPerTurn);
     sampleAll();
@@ -86,6 +86,10 @@ void Helix::setPrecisionLine(int verticesPerTurn) {
 void Helix::setNTurns(float turns) {
     nTurns = turns;
     updateLineVertexCount();
+}
+
+void Helix::updateOmega() {
+    omega = 1 / std::sqrt(radius * radius + pitch * pitch);
 }
 
 void Helix::updateLineVertexCount() {
@@ -144,10 +148,9 @@ float Helix::phi_from_u(float u1, float u2) const {
 bool Helix::refresh_param(float u1, float u2, float u3, float red, float green, float blue) {
     torsion = u3;
     curvature = std::sqrt(u1 * u1 + u2 * u2);
-    const float squares = torsion * torsion + curvature * curvature;
-    radius = curvature / squares;
-    pitch = torsion / squares;
-    omega = 1 / std::sqrt(pitch * pitch + radius * radius);
+    radius = r_from_k_t();
+    pitch = p_from_k_t();
+    updateOmega();
     phi = phi_from_u(u1, u2);
     helixColor = {red, green, blue};
     return !std::isnan(u2 / curvature);

@@ -150,6 +150,7 @@ public:
     SoSeparator* DrawRibbon() const;
 
 private:
+    void updateOmega();
     void updateLineVertexCount();
     void sampleAll();
     HelixCurve curve() const;

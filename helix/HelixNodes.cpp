@@ -13,19 +13,11 @@
 
 namespace {
 
-const float (*valuesOf(const Helix::Table& table))[3] {
-    return reinterpret_cast<const float(*)[3]>(table.data());
-}
-
-int countOf(const Helix::Table& table) {
-    return static_cast<int>(table.size());
-}
-
 void addVertexColors(SoSeparator& parent, const Helix::Table& colors) {
     auto* material = new SoMaterial;
     // Without any vertex the material keeps its own colours: the scene library wants at least one.
     if (!colors.empty()) {
-        SceneNodes::setColors(*material, countOf(colors), valuesOf(colors));
+        SceneNodes::setColors(*material, colors);
     }
     parent.addChild(material);
     auto* binding = new SoMaterialBinding;
@@ -34,7 +26,7 @@ void addVertexColors(SoSeparator& parent, const Helix::Table& colors) {
 }
 
 void addCoordinates(SoSeparator& parent, const Helix::Table& points) {
-    parent.addChild(SceneNodes::createCoordinates(countOf(points), valuesOf(points)));
+    parent.addChild(SceneNodes::createCoordinates(points));
 }
 
 /**
@@ -48,7 +40,7 @@ SoSeparator* createMesh(const char* name, const Helix& helix, const FloatTriple&
     if (helix.getHelixColor() == FloatTriple{0, 0, 0}) {
         addVertexColors(*mesh, colors);
     } else {
-        mesh->addChild(SceneNodes::createMaterial(color.x, color.y, color.z));
+        mesh->addChild(SceneNodes::createMaterial(color));
     }
     addCoordinates(*mesh, points);
     // The scene library complains about a mesh without a single quadrilateral.
@@ -67,7 +59,7 @@ SoSeparator* HelixNodes::createLine(const Helix& helix) {
     addVertexColors(*line, helix.getLineColors());
     addCoordinates(*line, helix.getLineVertices());
     auto* polyline = new SoLineSet;
-    polyline->numVertices = countOf(helix.getLineVertices());
+    polyline->numVertices = static_cast<int>(helix.getLineVertices().size());
     line->addChild(polyline);
     return line;
 }

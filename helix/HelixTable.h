@@ -3,6 +3,7 @@
 #include "math/Triple.h"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 /** The vertices of one part of a helix and their colours; knows whether it waits to be filled. */
@@ -12,8 +13,11 @@ public:
 
     /** Takes a size; all entries are zero and wait to be filled. */
     void init(std::size_t count) {
-        vertices.assign(count, {});
-        colors.assign(count, {});
+        // Both are made before either takes its place: they never differ in size.
+        Triples newVertices(count);
+        Triples newColors(count);
+        vertices = std::move(newVertices);
+        colors = std::move(newColors);
         filled = false;
     }
 

@@ -6,6 +6,7 @@
 #include "hyperboloid/HyperboloidMesh.h"
 #include "hyperboloid/HyperboloidNames.h"
 #include "hyperboloid/HyperboloidSurface.h"
+#include "scene/PositionColor.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoGroup.h>
@@ -117,11 +118,13 @@ void Hyperboloid::createMySphere(float radius) {
 }
 
 void Hyperboloid::init_tables() {
-    tablesGrid = grid();
-    const std::size_t vertexCount = tablesGrid.vertexCount();
+    // Until all have their size they are of no grid at all.
+    tablesGrid = {0, 0};
+    const std::size_t vertexCount = grid().vertexCount();
     vertices.assign(vertexCount, FloatTriple{});
     colors.assign(vertexCount, FloatTriple{});
     energies.assign(vertexCount, 0.0F);
+    tablesGrid = grid();
 }
 
 void Hyperboloid::generateHyperboloidPoints(bool points, bool colours) {
@@ -161,13 +164,12 @@ void Hyperboloid::computeColorForPoint(float e, float (&rgb)[3]) {
 }
 
 void Hyperboloid::computeColorForPoint(const float (&p)[3], float (&rgb)[3]) {
-    HyperboloidEnergy::colorOfPosition(p, rgb);
+    store(positionColor(toFloatTriple(p)), rgb);
 }
 
 SoSeparator* Hyperboloid::DrawHyperboloid() {
     requireTablesOfGrid();
-    const auto vertexCount = static_cast<int>(vertices.size());
-    SceneNodes::setColors(*material, vertexCount, asArrays(colors.data()));
+    SceneNodes::setColors(*material, colors);
     // Per vertex, so that the material index of a picked point is its vertex index.
     auto* binding = new SoMaterialBinding;
     binding->value = SoMaterialBinding::PER_VERTEX;
@@ -179,7 +181,7 @@ SoSeparator* Hyperboloid::DrawHyperboloid() {
     surface->renderCaching = SoSeparator::ON;
     surface->addChild(material.get());
     surface->addChild(binding);
-    surface->addChild(SceneNodes::createCoordinates(vertexCount, asArrays(vertices.data())));
+    surface->addChild(SceneNodes::createCoordinates(vertices));
     surface->addChild(mesh);
     return surface;
 }

@@ -101,19 +101,20 @@ public:
     /** The colour of a position, a rule of its own that no surface wears. */
     void computeColorForPoint(const float (&p)[3], float (&rgb)[3]);
 
-    /** The surface, named "Hyperboloid"; its mesh, named "HyperboloidMesh", is picked by vertex. */
+    // The parts' names are those of HyperboloidNames.
+    /** The surface; its mesh is picked by vertex. */
     SoSeparator* DrawHyperboloid();
-    /** The U3 axis with its arrow cone, named "U3Axis"; half-length and tube radius. */
+    /** The U3 axis with its arrow cone; half-length and tube radius. */
     SoSeparator* DrawU3Axis(float range, float radius);
-    /** The four U3-constant lines, named "U3ConstAxis"; half-length and tube radius. */
+    /** The four U3-constant lines; half-length and tube radius. */
     SoSeparator* DrawU3ConstAxis(float range, float radius);
-    /** The point uHat, named "uHat". */
+    /** The point uHat. */
     SoSeparator* DrawUHat();
-    /** The centre of the quadric, named "Center". */
+    /** The centre of the quadric. */
     SoSeparator* DrawCenter();
-    /** A tube from A to B, blue or red, named "Axis". */
+    /** A tube from A to B, blue or red. */
     SoSeparator* DrawTubeLine(Vecteur A, Vecteur B, float radius, bool blue);
-    /** A cone on the base centre A that points away from B, named "Cone". */
+    /** A cone on the base centre A that points away from B. */
     SoSeparator* DrawCone(Vecteur A, Vecteur B, float radius, float height);
     /** Two unit vectors perpendicular to v and to each other. */
     void find_normals(Vecteur v, Vecteur& nA, Vecteur& nB);
@@ -198,8 +199,9 @@ protected:
     /** Holds the one sphere that every point marker shows. */
     NodePointer<SoGroup> sphereGroup;
 
-private:
     /** Throws std::logic_error unless the tables were made for the grid. */
     void requireTablesOfGrid() const;
+
+private:
     [[nodiscard]] HyperboloidSpaces spaces() const;
 };

@@ -20,6 +20,10 @@
 
 namespace {
 
+constexpr FloatTriple redColor{1.0F, 0.0F, 0.0F};
+constexpr FloatTriple yellowColor{1.0F, 1.0F, 0.0F};
+constexpr FloatTriple blueColor{0.0F, 0.0F, 1.0F};
+
 constexpr int tubeRings = 2;
 constexpr int tubePoints = tubeRings * Ring::pointCount;
 
@@ -36,13 +40,12 @@ constexpr float glyphTipScale = 0.15F;
 /** A third of pi, about the first axis. */
 constexpr float glyphTipTurn = 1.0471976F;
 
-SoCoordinate3* createCoordinates(const std::vector<FloatTriple>& points) {
-    return SceneNodes::createCoordinates(static_cast<int>(points.size()), asArrays(points.data()));
-}
-
-/** The wall between two rings of points. */
-SoQuadMesh* createTubeWall() {
-    return SceneNodes::createQuadMesh(Ring::pointCount, tubeRings);
+/** A closed wall between two rings of points, in one colour. */
+void addTube(SoSeparator& parent, const FloatTriple& color,
+             const std::vector<FloatTriple>& points) {
+    parent.addChild(SceneNodes::createMaterial(color));
+    parent.addChild(SceneNodes::createCoordinates(points));
+    parent.addChild(SceneNodes::createQuadMesh(Ring::pointCount, tubeRings));
 }
 
 /** The two directions that span the plane of a ring. */
@@ -77,13 +80,13 @@ SoIndexedFaceSet* createConeFan(int32_t hub) {
 }
 
 /** A named marker: translated, in a diffuse colour, and shown by the shared marker group. */
-SoSeparator* createMarker(const char* name, const Triple& position, const SbColor& color,
+SoSeparator* createMarker(const char* name, const Triple& position, const FloatTriple& color,
                           SoGroup* marker) {
     const FloatTriple translation = narrowed(position);
     auto* transform = new SoTransform;
     transform->translation.setValue(translation.x, translation.y, translation.z);
     auto* material = new SoMaterial;
-    material->diffuseColor.setValue(color);
+    material->diffuseColor.setValue(color.x, color.y, color.z);
     SoSeparator* separator = SceneNodes::createSeparator(name);
     separator->addChild(transform);
     separator->addChild(material);
@@ -121,10 +124,7 @@ SoSeparator* HyperboloidDecorations::createTubeLine(Vecteur A, Vecteur B, float 
     }
 
     SoSeparator* tube = SceneNodes::createSeparator(HyperboloidNames::axis);
-    tube->addChild(blue ? SceneNodes::createMaterial(0.0F, 0.0F, 1.0F)
-                        : SceneNodes::createMaterial(1.0F, 0.0F, 0.0F));
-    tube->addChild(createCoordinates(points));
-    tube->addChild(createTubeWall());
+    addTube(*tube, blue ? blueColor : redColor, points);
     return tube;
 }
 
@@ -147,8 +147,8 @@ SoSeparator* HyperboloidDecorations::createCone(Vecteur A, Vecteur B, float radi
     points.push_back(narrowed(baseCenter));
 
     SoSeparator* cone = SceneNodes::createSeparator(HyperboloidNames::cone);
-    cone->addChild(SceneNodes::createMaterial(0.0F, 0.0F, 1.0F));
-    cone->addChild(createCoordinates(points));
+    cone->addChild(SceneNodes::createMaterial(blueColor));
+    cone->addChild(SceneNodes::createCoordinates(points));
     cone->addChild(createConeFan(coneApex));
     cone->addChild(createConeFan(coneBaseCenter));
     return cone;
@@ -188,14 +188,13 @@ SoSeparator* HyperboloidDecorations::createU3ConstAxis(const HyperboloidSpaces& 
 
 SoSeparator* HyperboloidDecorations::createUHat(const HyperboloidSpaces& spaces, int space,
                                                 SoGroup* marker) {
-    return createMarker(HyperboloidNames::uHat, spaces.distinguishedPoint(space),
-                        SbColor(1.0F, 1.0F, 0.0F), marker);
+    return createMarker(HyperboloidNames::uHat, spaces.distinguishedPoint(space), yellowColor,
+                        marker);
 }
 
 SoSeparator* HyperboloidDecorations::createCenter(const HyperboloidSpaces& spaces, int space,
                                                   SoGroup* marker) {
-    return createMarker(HyperboloidNames::center, spaces.center(space), SbColor(1.0F, 0.0F, 0.0F),
-                        marker);
+    return createMarker(HyperboloidNames::center, spaces.center(space), redColor, marker);
 }
 
 SoSeparator* HyperboloidDecorations::createAxisGlyph(double halfLength, double radius) {
@@ -212,9 +211,7 @@ SoSeparator* HyperboloidDecorations::createAxisGlyph(double halfLength, double r
     tip->rotation.setValue(SbVec3f(1.0F, 0.0F, 0.0F), glyphTipTurn);
 
     SoSeparator* axis = SceneNodes::createSeparator(HyperboloidNames::axis);
-    axis->addChild(SceneNodes::createMaterial(0.0F, 0.0F, 1.0F));
-    axis->addChild(createCoordinates(points));
-    axis->addChild(createTubeWall());
+    addTube(*axis, blueColor, points);
     axis->addChild(tip);
     axis->addChild(new SoCone);
     return axis;

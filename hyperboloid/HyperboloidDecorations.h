@@ -23,40 +23,38 @@ namespace HyperboloidDecorations {
  */
 void findNormals(Vecteur v, Vecteur& nA, Vecteur& nB);
 
-/** A tube of two rings of 30 points from A to B, blue or red; the separator is named "Axis". */
+/** A tube of two rings (see Ring) from A to B, blue or red. */
 SoSeparator* createTubeLine(Vecteur A, Vecteur B, float radius, bool blue);
 
 /**
- * A blue cone on the base centre A whose apex lies `height` away on the far side from B; the
- * separator is named "Cone".
+ * A blue cone on the base centre A whose apex lies `height` away on the far side from B.
  *
- * Points: 0 is the apex, 1 to 30 the rim, 31 the base centre.
+ * Points: the apex, the rim (a Ring), the base centre.
  */
 SoSeparator* createCone(Vecteur A, Vecteur B, float radius, float height);
 
 /**
- * The line u1 = u2 = 0, u3 in -range to range, as a blue tube with an arrow cone at -range; named
- * "U3Axis".
+ * The line u1 = u2 = 0, u3 in -range to range, as a blue tube with an arrow cone at -range.
  */
 SoSeparator* createU3Axis(const HyperboloidSpaces& spaces, int space, float range, float radius);
 
 /**
  * The four rulings of the surface on which u3 is constant (-a/b or -c/d), as red tubes of
- * half-length `range`; named "U3ConstAxis". b = 0 or d = 0 gives infinite or NaN lines.
+ * half-length `range`. b = 0 or d = 0 gives infinite or NaN lines.
  */
 SoSeparator* createU3ConstAxis(const HyperboloidSpaces& spaces, int space,
                                const HyperboloidCoefficients::Pnas& pnas, float range,
                                float radius);
 
-/** The given marker in yellow at uHat; named "uHat". */
+/** The given marker in yellow at uHat. */
 SoSeparator* createUHat(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
 
-/** The given marker in red at the centre of the quadric; named "Center". */
+/** The given marker in red at the centre of the quadric. */
 SoSeparator* createCenter(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
 
 /**
- * A blue tube of two rings of 30 points along the third coordinate, from halfLength to -halfLength,
- * with a small cone at halfLength; named "Axis".
+ * A blue tube of two rings along the third coordinate, from halfLength to -halfLength,
+ * with a small cone at halfLength.
  */
 SoSeparator* createAxisGlyph(double halfLength, double radius);
 

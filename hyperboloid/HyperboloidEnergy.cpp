@@ -1,12 +1,10 @@
 #include "hyperboloid/HyperboloidEnergy.h"
 
-#include "scene/PositionColor.h"
-
 #include <algorithm>
 
 namespace {
 
-constexpr double blueHueDegrees = 240.0;
+constexpr double lowestEnergyHueDegrees = 240.0;
 constexpr double fullCircleDegrees = 360.0;
 constexpr double oneThird = 1.0 / 3.0;
 constexpr double twoThirds = 2.0 / 3.0;
@@ -61,10 +59,6 @@ void HyperboloidEnergy::normalize(std::vector<float>& energies) {
     }
 }
 
-void HyperboloidEnergy::colorOfPosition(const float (&p)[3], float (&rgb)[3]) {
-    store(positionColor(toFloatTriple(p)), rgb);
-}
-
 HyperboloidEnergy::Palette::Palette(double saturation, double lightnessValue)
     : isGrey(saturation == 0.0)
     , lightness(lightnessValue)
@@ -77,7 +71,7 @@ FloatTriple HyperboloidEnergy::Palette::colorOf(float energy) const {
         const auto grey = static_cast<float>(lightness);
         return {grey, grey, grey};
     }
-    const double hue = (1.0 - energy) * blueHueDegrees / fullCircleDegrees;
+    const double hue = (1.0 - energy) * lowestEnergyHueDegrees / fullCircleDegrees;
     return narrowed({channelAt(hue + oneThird), channelAt(hue), channelAt(hue - oneThird)});
 }
 

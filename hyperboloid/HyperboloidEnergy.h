@@ -25,21 +25,19 @@ void computeEnergies(const std::vector<FloatTriple>& points, const TripleMatrix&
  */
 void normalize(std::vector<float>& energies);
 
-/** The colour of a position: a second rule beside the energies' colours. */
-void colorOfPosition(const float (&p)[3], float (&rgb)[3]);
-
 /**
- * The colours from blue (energy 0) over green (energy 0.5) to red (energy 1).
- *
- * Hue (1 - e) 240 / 360 in the hue, saturation, lightness model.
+ * The colours of energies in the hue, saturation, lightness model: the hue runs evenly from that of
+ * the lowest energy, blue, by way of green to 0, red: (1 - e) 240 / 360 of a turn.
  */
 class Palette {
 public:
     /** Saturation and lightness in 0 to 1; saturation 0 gives the grey of the lightness. */
     Palette(double saturation, double lightnessValue);
 
-    /** The colour of a normalised energy; NaN gives the model's darkest channel value in all three
-     * channels. */
+    /**
+     * The colour of a normalised energy. NaN gives the lowest value of a channel in all three; with
+     * saturation 0 it is as grey as all others.
+     */
     [[nodiscard]] FloatTriple colorOf(float energy) const;
     /** Writes the colours of normalised energies. */
     void colorsOf(const std::vector<float>& energies, std::vector<FloatTriple>& colors) const;

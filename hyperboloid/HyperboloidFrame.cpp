@@ -106,6 +106,8 @@ void HyperboloidFrame::reDraw(bool reinit, bool regenerate) {
     if (reinit) {
         init_tables();
     }
+    // Before anything is removed from the scene.
+    requireTablesOfGrid();
     if (reinit || regenerate) {
         generateHyperboloidPoints(reinit, regenerate);
     }

@@ -5,9 +5,9 @@
 #include <array>
 
 /**
- * The ring that round decorations are made of: points at the angles k 2 pi / 29 for k = 0 to 29.
+ * The ring that round decorations are made of: points at even steps of a full turn.
  *
- * 29 steps for 30 points: the last point repeats the first, and the ring closes.
+ * One step less than points: the last point repeats the first, and the ring closes.
  */
 namespace Ring {
 
@@ -23,7 +23,7 @@ struct Direction {
     double sine;
 };
 
-/** cos and sin of the angles k 2 pi / 29, computed in double. */
+/** cos and sin of the angles k 2 pi / stepCount, computed in double. */
 const std::array<Direction, pointCount>& directions();
 
 } // namespace Ring

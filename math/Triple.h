@@ -99,8 +99,3 @@ Vecteur toVecteur(const Triple& triple);
 
 /** The nine entries of a 3x3 matrix, copied to the stack. */
 TripleMatrix toTripleMatrix(Matrice matrix);
-
-/** A table in the form in which the scene library takes it. */
-inline const float (*asArrays(const FloatTriple* table))[3] {
-    return reinterpret_cast<const float(*)[3]>(table);
-}

@@ -12,9 +12,11 @@ namespace {
 
 /** Replaces all values of a field of triples, whatever their number was before. */
 template <typename Field>
-void setTriples(Field& field, int count, const float (*values)[3]) {
+void setTriples(Field& field, const std::vector<FloatTriple>& values) {
+    const auto count = static_cast<int>(values.size());
     field.setNum(count);
-    field.setValues(0, count, values);
+    // A table of triples has the layout of an array of float[3], as which the library takes it.
+    field.setValues(0, count, reinterpret_cast<const float(*)[3]>(values.data()));
 }
 
 } // namespace
@@ -25,22 +27,21 @@ SoSeparator* SceneNodes::createSeparator(const char* name) {
     return separator;
 }
 
-SoMaterial* SceneNodes::createMaterial(float red, float green, float blue) {
+SoMaterial* SceneNodes::createMaterial(const FloatTriple& color) {
     auto* material = new SoMaterial;
-    const float color[1][3] = {{red, green, blue}};
-    setColors(*material, 1, color);
+    setColors(*material, {color});
     return material;
 }
 
-void SceneNodes::setColors(SoMaterial& material, int count, const float (*colors)[3]) {
-    setTriples(material.ambientColor, count, colors);
-    setTriples(material.diffuseColor, count, colors);
-    setTriples(material.specularColor, count, colors);
+void SceneNodes::setColors(SoMaterial& material, const std::vector<FloatTriple>& colors) {
+    setTriples(material.ambientColor, colors);
+    setTriples(material.diffuseColor, colors);
+    setTriples(material.specularColor, colors);
 }
 
-SoCoordinate3* SceneNodes::createCoordinates(int count, const float (*points)[3]) {
+SoCoordinate3* SceneNodes::createCoordinates(const std::vector<FloatTriple>& points) {
     auto* coordinates = new SoCoordinate3;
-    setTriples(coordinates->point, count, points);
+    setTriples(coordinates->point, points);
     return coordinates;
 }
 

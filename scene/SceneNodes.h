@@ -1,6 +1,9 @@
 #pragma once
 
+#include "math/Triple.h"
+
 #include <boost/intrusive_ptr.hpp>
+#include <vector>
 
 class SoCoordinate3;
 class SoMaterial;
@@ -20,8 +23,8 @@ using NodePointer = boost::intrusive_ptr<Node>;
  * Small makers of scene nodes that the models share.
  *
  * Every returned node is new and unreferenced: the caller adds it to a scene, which then owns it.
- * Tables are arrays of float[3] (x, y, z or red, green, blue in 0 to 1) and are copied into the
- * node's fields. A count of 0 leaves the field without any value.
+ * Tables (x, y, z or red, green, blue in 0 to 1) are copied into the node's fields. An empty one
+ * leaves the field without any value.
  */
 namespace SceneNodes {
 
@@ -29,13 +32,13 @@ namespace SceneNodes {
 SoSeparator* createSeparator(const char* name);
 
 /** A material whose ambient, diffuse and specular colours are all the one given colour. */
-SoMaterial* createMaterial(float red, float green, float blue);
+SoMaterial* createMaterial(const FloatTriple& color);
 
 /** Gives the ambient, the diffuse and the specular colours of a material the same table. */
-void setColors(SoMaterial& material, int count, const float (*colors)[3]);
+void setColors(SoMaterial& material, const std::vector<FloatTriple>& colors);
 
 /** Coordinates holding a copy of the given points. */
-SoCoordinate3* createCoordinates(int count, const float (*points)[3]);
+SoCoordinate3* createCoordinates(const std::vector<FloatTriple>& points);
 
 /** A mesh of quadrilaterals over the coordinates in force, one row of vertices after the other. */
 SoQuadMesh* createQuadMesh(int verticesPerRow, int verticesPerColumn);

@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QSet>
+#include <QSignalMapper>
 #include <gtest/gtest.h>
 
 namespace {
@@ -219,6 +220,11 @@ TEST(MainWindowSlots, SlotsStandInTheirOrder) {
                                        "saveCurrentImage()",
                                        "saveObjData(SoQtGeneralViewerFrame*,bool)"}));
     EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
+}
+
+TEST(MainWindowSlots, MapperOfTheWindowMenuIsAChildOfTheWindow) {
+    const MainWindow window;
+    EXPECT_EQ(window.findChildren<QSignalMapper*>(QString(), Qt::FindDirectChildrenOnly).size(), 1);
 }
 
 TEST(MainWindowSlots, FramesAddNothingToTheirMetaObjects) {

@@ -12,8 +12,9 @@ namespace {
 class WindowMenuTest : public testing::Test {
 protected:
     WindowMenuTest() {
-        menu.addAction("Cl&ose");
-        menu.addSeparator();
+        auto* separator = new QAction(&owner);
+        separator->setSeparator(true);
+        menu.addActions({new QAction("Cl&ose", &owner), separator});
         for (const char* title : {"Viewer 17", "Viewer 5", "Viewer 23"}) {
             open(title);
         }
@@ -37,13 +38,15 @@ protected:
     }
 
     QMdiArea area;
+    /** Owns the commands, as the main window does. */
+    QObject owner;
     QMenu menu;
 };
 
 } // namespace
 
 TEST_F(WindowMenuTest, ListsTheDocumentsBelowItsCommandsAndChecksTheActiveOne) {
-    WindowMenu windowMenu(menu, area);
+    WindowMenu windowMenu(menu, area, &owner);
     area.setActiveSubWindow(area.subWindowList()[1]);
     windowMenu.update();
     EXPECT_EQ(texts(), (QStringList{"Cl&ose", "-", "&1 Viewer 17", "&2 Viewer 5", "&3 Viewer 23"}));
@@ -54,7 +57,7 @@ TEST_F(WindowMenuTest, ListsTheDocumentsBelowItsCommandsAndChecksTheActiveOne) {
 }
 
 TEST_F(WindowMenuTest, FollowsWhatIsOpenAndKeepsItsCommands) {
-    WindowMenu windowMenu(menu, area);
+    WindowMenu windowMenu(menu, area, &owner);
     const QList<QAction*> commands = menu.actions();
     windowMenu.update();
     delete area.subWindowList()[0];
@@ -68,13 +71,13 @@ TEST_F(WindowMenuTest, TenthEntryHasItsMnemonicToo) {
     for (int i = 0; i < 7; ++i) {
         open("more");
     }
-    WindowMenu windowMenu(menu, area);
+    WindowMenu windowMenu(menu, area, &owner);
     windowMenu.update();
     EXPECT_EQ(texts().last(), "&10 more");
 }
 
 TEST_F(WindowMenuTest, ChecksNothingWhenNoDocumentIsActive) {
-    WindowMenu windowMenu(menu, area);
+    WindowMenu windowMenu(menu, area, &owner);
     area.setActiveSubWindow(nullptr);
     windowMenu.update();
     for (const QAction* entry : menu.actions()) {
@@ -83,7 +86,7 @@ TEST_F(WindowMenuTest, ChecksNothingWhenNoDocumentIsActive) {
 }
 
 TEST_F(WindowMenuTest, TellsTheChosenDocument) {
-    WindowMenu windowMenu(menu, area);
+    WindowMenu windowMenu(menu, area, &owner);
     windowMenu.update();
     std::vector<const QWidget*> chosen;
     QObject::connect(&windowMenu.mapper(), &QSignalMapper::mappedWidget,

@@ -196,8 +196,10 @@ TEST(HyperboloidFrameTest, RedrawOnAnotherGridNeedsNewTables) {
     onNewGrid.horizontalPrecision = 7;
     onNewGrid.verticalPrecision = 11;
     lone.frame.setParameters(onNewGrid);
+    const Names before = SceneReader::childNames(phongBranch(lone.frame));
     EXPECT_THROW(lone.frame.reDraw(false, true), std::logic_error);
     EXPECT_THROW(lone.frame.reDraw(false, false), std::logic_error);
+    EXPECT_EQ(SceneReader::childNames(phongBranch(lone.frame)), before) << "nothing is removed";
     EXPECT_NO_THROW(lone.frame.reDraw(true, false));
 }
 

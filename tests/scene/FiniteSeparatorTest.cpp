@@ -20,10 +20,9 @@ const SbViewportRegion viewport(100, 100);
 
 /** A square of two by two around the z axis at a height; one corner's height may be another. */
 SoSeparator* square(float height, float cornerHeight) {
-    const float points[4][3] = {
-        {-1, -1, height}, {1, -1, height}, {-1, 1, height}, {1, 1, cornerHeight}};
     SoSeparator* separator = SceneNodes::createSeparator("Square");
-    separator->addChild(SceneNodes::createCoordinates(4, points));
+    separator->addChild(SceneNodes::createCoordinates(
+        {{-1, -1, height}, {1, -1, height}, {-1, 1, height}, {1, 1, cornerHeight}}));
     separator->addChild(SceneNodes::createQuadMesh(2, 2));
     return separator;
 }
