@@ -168,6 +168,7 @@ SoSeparator* Hyperboloid::DrawHyperboloid() {
     binding->value = SoMaterialBinding::PER_VERTEX;
     auto* mesh = new HyperboloidMesh(static_cast<int>(numRow), columns);
     mesh->setName("HyperboloidMesh");
+    mesh->setPolarity({semiAxis, swapAxes, spaces(), space});
 
     SoSeparator* surface = SceneNodes::createSeparator("Hyperboloid");
     // Large surfaces are never cached by themselves, and drawn from a cache they cost a fifth less.
