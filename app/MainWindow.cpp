@@ -2,6 +2,7 @@
 
 #include "app/AppearanceWindow.h"
 #include "app/DataExport.h"
+#include "app/DocumentRepaint.h"
 #include "app/HelixWindow.h"
 #include "app/HyperboloidParameterDialog.h"
 #include "app/ImageExport.h"
@@ -149,7 +150,7 @@ void MainWindow::addDocument(SoQtGeneralViewerFrame* frame, const char* viewerTi
     frame->setAttribute(Qt::WA_DontShowOnScreen);
     frame->initialize();
     frame->setTitle(viewerTitle);
-    mdiArea->addSubWindow(frame);
+    new DocumentRepaint(mdiArea->addSubWindow(frame));
     frame->setAttribute(Qt::WA_DontShowOnScreen, false);
 }
 
