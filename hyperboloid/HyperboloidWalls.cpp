@@ -33,7 +33,9 @@ void HyperboloidWalls::drawWall(bool far, const DrawRun& drawRun) const {
 }
 
 bool HyperboloidWalls::isFar(int strip, int quad) const {
-    const auto left = static_cast<std::size_t>(strip * (quadsPerStrip + 1) + quad);
-    const auto right = left + static_cast<std::size_t>(quadsPerStrip + 1);
+    const auto rows = static_cast<std::size_t>(quadsPerStrip) + 1;
+    const std::size_t left =
+        static_cast<std::size_t>(strip) * rows + static_cast<std::size_t>(quad);
+    const std::size_t right = left + rows;
     return sides[left] + sides[left + 1] + sides[right] + sides[right + 1] < 0;
 }
