@@ -124,7 +124,7 @@ private:
         pick.setPickAll(TRUE);
         pick.setPoint(SbVec2s(static_cast<short>(x), static_cast<short>(y)));
         pick.apply(frame->getViewer()->getSceneManager()->getSceneGraph());
-        return SoPickedPointList(pick.getPickedPointList());
+        return {pick.getPickedPointList()};
     }
 
     /** The colours of a picked triangle. */

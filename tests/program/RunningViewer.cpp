@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
+#include <utility>
 
 namespace {
 
@@ -51,8 +52,8 @@ int saturatedPixels(const QImage& image) {
 RunningViewer::RunningViewer(QSize windowSize)
     : RunningViewer(qEnvironmentVariable("DISPLAY"), windowSize) {}
 
-RunningViewer::RunningViewer(const QString& otherDisplay, QSize windowSize)
-    : display(otherDisplay)
+RunningViewer::RunningViewer(QString otherDisplay, QSize windowSize)
+    : display(std::move(otherDisplay))
     , size(windowSize) {
     QDir(home.path()).mkpath("Trolltech");
     QFile settings(home.filePath("Trolltech/MDI Viewer.conf"));
@@ -65,8 +66,8 @@ RunningViewer::RunningViewer(const QString& otherDisplay, QSize windowSize)
     start();
 }
 
-RunningViewer::RunningViewer(const QString& otherDisplay)
-    : display(otherDisplay) {
+RunningViewer::RunningViewer(QString otherDisplay)
+    : display(std::move(otherDisplay)) {
     start();
 }
 

@@ -13,9 +13,9 @@ public:
     /** Starts the program with its window at the screen's corner, all four views tiled. */
     explicit RunningViewer(QSize size = QSize(1000, 800));
     /** Starts the program on another display, without stored settings. */
-    explicit RunningViewer(const QString& display);
+    explicit RunningViewer(QString display);
     /** Starts the program on another display, its window of this size. */
-    RunningViewer(const QString& display, QSize size);
+    RunningViewer(QString display, QSize size);
     ~RunningViewer();
     RunningViewer(const RunningViewer&) = delete;
     RunningViewer& operator=(const RunningViewer&) = delete;
