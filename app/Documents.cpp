@@ -1,5 +1,6 @@
 #include "app/Documents.h"
 
+#include "app/DocumentRepaint.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 
@@ -56,7 +57,7 @@ void Documents::addFrame(SoQtGeneralViewerFrame* frame, const char* viewerTitle)
     frame->setAttribute(Qt::WA_DontShowOnScreen);
     frame->initialize();
     frame->setTitle(viewerTitle);
-    area.addSubWindow(frame);
+    new DocumentRepaint(area.addSubWindow(frame));
     frame->setAttribute(Qt::WA_DontShowOnScreen, false);
 }
 

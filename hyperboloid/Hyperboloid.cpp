@@ -175,6 +175,7 @@ SoSeparator* Hyperboloid::DrawHyperboloid() {
     binding->value = SoMaterialBinding::PER_VERTEX;
     auto* mesh = new HyperboloidMesh(grid());
     mesh->setName(HyperboloidNames::mesh);
+    mesh->setPolarity({semiAxis, swapAxes, spaces(), space});
 
     SoSeparator* surface = SceneNodes::createSeparator(HyperboloidNames::surface);
     // Large surfaces are never cached by themselves, and drawn from a cache they cost a fifth less.

@@ -1,15 +1,23 @@
 #include "hyperboloid/HyperboloidMesh.h"
 
+#include "hyperboloid/HyperboloidWalls.h"
 #include "scene/Finite.h"
 
 #include <Inventor/SbBox3f.h>
 #include <Inventor/SbLine.h>
+#include <Inventor/SbViewVolume.h>
 #include <Inventor/SoPrimitiveVertex.h>
+#include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/actions/SoRayPickAction.h>
+#include <Inventor/bundles/SoMaterialBundle.h>
 #include <Inventor/caches/SoNormalCache.h>
 #include <Inventor/details/SoFaceDetail.h>
 #include <Inventor/details/SoPointDetail.h>
 #include <Inventor/elements/SoCoordinateElement.h>
+#include <Inventor/elements/SoLazyElement.h>
+#include <Inventor/elements/SoModelMatrixElement.h>
+#include <Inventor/elements/SoViewVolumeElement.h>
+#include <Inventor/system/gl.h>
 #include <algorithm>
 #include <iterator>
 #include <limits>
@@ -31,6 +39,18 @@ bool comesNear(const SbLine& line, const SbVec3f& center, double radius) {
     const SbVec3f toCenter = center - line.getPosition();
     const double distance = toCenter.cross(line.getDirection()).length();
     return !(distance > radius + rounding * toCenter.length());
+}
+
+/** The eye in the coordinates of what is being drawn, as HyperboloidPolarity takes it. */
+SbVec4d eyeOf(SoState* state) {
+    const SbViewVolume& volume = SoViewVolumeElement::get(state);
+    const bool isParallel = volume.getProjectionType() == SbViewVolume::ORTHOGRAPHIC;
+    const SbVec3f place =
+        isParallel ? -volume.getProjectionDirection() : volume.getProjectionPoint();
+    const SbDPMatrix toObject = SbDPMatrix(SoModelMatrixElement::get(state)).inverse();
+    SbVec4d eye;
+    toObject.multVecMatrix(SbVec4d(place[0], place[1], place[2], isParallel ? 0 : 1), eye);
+    return eye;
 }
 
 } // namespace
@@ -64,6 +84,16 @@ void HyperboloidMesh::rayPick(SoRayPickAction* action) {
         return;
     }
     computeObjectSpaceRay(action);
+    withVertices(action, [&](const SbVec3f* points, const SbVec3f* normals) {
+        updateBands(points);
+        for (const Band& band : bands) {
+            pickInBand(action, band, points, normals);
+        }
+    });
+}
+
+template <typename Use>
+void HyperboloidMesh::withVertices(SoAction* action, Use use) {
     const SoCoordinateElement* coordinates = nullptr;
     const SbVec3f* normals = nullptr;
     getVertexData(action->getState(), coordinates, normals, TRUE);
@@ -71,14 +101,44 @@ void HyperboloidMesh::rayPick(SoRayPickAction* action) {
     if (generatesNormals) {
         normals = generateAndReadLockNormalCache(action->getState())->getNormals();
     }
-    const SbVec3f* points = coordinates->getArrayPtr3();
-    updateBands(points);
-    for (const Band& band : bands) {
-        pickInBand(action, band, points, normals);
-    }
+    use(coordinates->getArrayPtr3(), normals);
     if (generatesNormals) {
         readUnlockNormalCache();
     }
+}
+
+void HyperboloidMesh::GLRender(SoGLRenderAction* action) {
+    if (!(SoLazyElement::getTransparency(action->getState(), 0) > 0)) {
+        SoQuadMesh::GLRender(action);
+        return;
+    }
+    if (!shouldGLRender(action)) {
+        return;
+    }
+    SoMaterialBundle colors(action);
+    colors.sendFirst();
+    const SbVec4d plane = polarity.planeBeforeFarWall(eyeOf(action->getState()));
+    withVertices(action, [&](const SbVec3f* points, const SbVec3f* normals) {
+        const HyperboloidWalls walls(points, verticesPerRow.getValue(),
+                                     verticesPerColumn.getValue(), plane);
+        walls.draw([&](int strip, int first, int last) {
+            drawRun(strip, first, last, points, normals, colors);
+        });
+    });
+}
+
+void HyperboloidMesh::drawRun(int strip, int first, int last, const SbVec3f* points,
+                              const SbVec3f* normals, SoMaterialBundle& colors) const {
+    const int rows = verticesPerRow.getValue();
+    glBegin(GL_QUAD_STRIP);
+    for (int row = first; row <= last; ++row) {
+        for (const int vertex : {strip * rows + row, (strip + 1) * rows + row}) {
+            colors.send(vertex, TRUE);
+            glNormal3fv(normals[vertex].getValue());
+            glVertex3fv(points[vertex].getValue());
+        }
+    }
+    glEnd();
 }
 
 void HyperboloidMesh::updateBands(const SbVec3f* points) {

@@ -1,18 +1,25 @@
 #pragma once
 
+#include "hyperboloid/HyperboloidPolarity.h"
 #include "hyperboloid/VertexGrid.h"
 
 #include <Inventor/nodes/SoQuadMesh.h>
 #include <vector>
 
+class SoMaterialBundle;
+
 /**
- * The surface's mesh: to everyone who looks an SoQuadMesh like any other, but quicker to pick.
+ * The surface's mesh: to everyone who looks an SoQuadMesh like any other, but quicker to pick, and
+ * when it is transparent drawn far wall first.
  *
  * The library's mesh intersects a ray with every triangle. This one divides the grid into patches
  * with a bounding sphere each, and hands the library only the triangles of patches that the ray
  * comes near, in the library's own order, so that the picked point is the same to the last bit.
  * Triangles with a vertex that is not finite are never hit, and such a vertex does not count for
  * the bounding box.
+ *
+ * An opaque mesh is drawn by the library. Of a transparent one, the library would show the far wall
+ * only where the grid's order happens to have it drawn before the near one.
  *
  * It has no type of its own in the scene library, on purpose: getTypeId() is SoQuadMesh's. It takes
  * its vertices from the coordinates in force, from the first one on; these must not be edited in
@@ -24,7 +31,11 @@ public:
     HyperboloidMesh(const HyperboloidMesh&) = delete;
     HyperboloidMesh& operator=(const HyperboloidMesh&) = delete;
 
+    /** Tells which wall is the far one; by default all is near. */
+    void setPolarity(const HyperboloidPolarity& polarityOfSurface) { polarity = polarityOfSurface; }
+
     void rayPick(SoRayPickAction* action) override;
+    void GLRender(SoGLRenderAction* action) override;
 
 protected:
     ~HyperboloidMesh() override = default;
@@ -45,6 +56,12 @@ private:
     using Band = std::vector<Patch>;
 
     [[nodiscard]] VertexGrid grid() const;
+    /** Does something with the vertices' coordinates and normals, generated ones if need be. */
+    template <typename Use>
+    void withVertices(SoAction* action, Use use);
+    void drawRun(int strip, int first, int last, const SbVec3f* points, const SbVec3f* normals,
+                 SoMaterialBundle& colors) const;
+
     void updateBands(const SbVec3f* points);
     Patch createPatch(int firstStrip, int firstQuad, const SbVec3f* points) const;
     void pickInBand(SoRayPickAction* action, const Band& band, const SbVec3f* points,
@@ -53,6 +70,7 @@ private:
                      const SbVec3f* normals);
     void sendVertex(int index, const SbVec3f* points, const SbVec3f* normals);
 
+    HyperboloidPolarity polarity;
     std::vector<Band> bands;
     /** The coordinates that the bands were made from. */
     const SbVec3f* boundedPoints = nullptr;

@@ -13,7 +13,8 @@
 
 SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed)
     : SoQtExaminerViewer(owner, name, embed, SoQtFullViewer::BUILD_ALL, SoQtViewer::BROWSER)
-    , frame(owner) {
+    , frame(owner)
+    , windowReturn([this] { scheduleRedraw(); }) {
     setCameraType(SoOrthographicCamera::getClassTypeId());
     setPopupMenuEnabled(FALSE);
     setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
@@ -55,8 +56,8 @@ bool SoQtGeneralViewer::processKey(const SoEvent* event) {
 }
 
 void SoQtGeneralViewer::redraw() {
-    const QWindow* window = getGLWidget()->windowHandle();
-    if (window == nullptr || !window->isExposed()) {
+    if (!isInSight()) {
+        windowReturn.waitFor(*getGLWidget()->window());
         return;
     }
     fitIntoParent();
@@ -69,6 +70,14 @@ void SoQtGeneralViewer::redraw() {
     presentEmptyFrame();
     // The toolkit paints the widget after a change of size anyway: the scene is drawn with that.
     getGLWidget()->update();
+}
+
+bool SoQtGeneralViewer::isInSight() const {
+    const QWidget* widget = getGLWidget();
+    const QWindow* view = widget->windowHandle();
+    const QWindow* around = widget->window()->windowHandle();
+    return view != nullptr && view->isExposed() && around != nullptr && around->isExposed() &&
+           !widget->window()->isMinimized() && !widget->visibleRegion().isEmpty();
 }
 
 void SoQtGeneralViewer::fitIntoParent() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/WindowReturn.h"
+
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 
 class SoQtGeneralViewerFrame;
@@ -33,14 +35,17 @@ protected:
     SbBool processSoEvent(const SoEvent* event) override;
     /**
      * Draws the scene. After a change of size it only prepares the window, and the scene is drawn
-     * once, when the toolkit paints the widget in its new size. A window that is not on the screen
-     * is not drawn at all: coming to the screen, it is painted.
+     * once, when the toolkit paints the widget in its new size. What cannot be seen is not drawn at
+     * all: a view in a minimised window or document, behind other documents, on another desktop.
+     * It is drawn when it is seen again, and then a spin goes on as if it had never paused.
      */
     void redraw() override;
 
 private:
     /** Handles the viewer's own keys; returns whether the event was one of them. */
     bool processKey(const SoEvent* event);
+
+    bool isInSight() const;
 
     /**
      * Software OpenGL learns of a new window size only when buffers are swapped: without this, the
@@ -52,5 +57,6 @@ private:
     void fitIntoParent();
 
     SoQtGeneralViewerFrame* frame;
+    WindowReturn windowReturn;
     SbVec2s presentedSize{0, 0};
 };

@@ -1,6 +1,6 @@
+#include "tests/program/OwnDisplay.h"
 #include "tests/program/RunningViewer.h"
 
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,29 +16,6 @@ public:
         click(1, uView().topLeft() + QPoint(5, 5));
         EXPECT_TRUE(waitUntilChanged(statusBar(), before));
     }
-};
-
-/** A display of the test's own. */
-class OwnDisplay {
-public:
-    OwnDisplay() {
-        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-noreset"});
-        EXPECT_TRUE(server.waitForReadyRead());
-        displayName = ":" + QString(server.readLine()).trimmed();
-    }
-    ~OwnDisplay() {
-        server.terminate();
-        server.waitForFinished();
-    }
-    OwnDisplay(const OwnDisplay&) = delete;
-    OwnDisplay& operator=(const OwnDisplay&) = delete;
-
-    const QString& name() const { return displayName; }
-    void kill() { server.kill(); }
-
-private:
-    QProcess server;
-    QString displayName;
 };
 
 /** Expects that doing something changes the helix, all three surfaces' views and the status bar. */
@@ -210,15 +187,9 @@ TEST(Program, LosingTheDisplayEndsItWithAMessage) {
 
 TEST(Program, WindowManagerClosesItAndItsGeometryIsStored) {
     const OwnDisplay display;
-    QProcess windowManager;
-    windowManager.setProcessEnvironment(RunningViewer::environmentOn(display.name()));
-    // It says so once it manages the display: a window shown before that could not be activated.
-    windowManager.start("openbox", {"--startup", "echo ready"});
-    ASSERT_TRUE(windowManager.waitForReadyRead());
+    const WindowManager windowManager(display);
     RunningViewer viewer(display.name());
     ASSERT_TRUE(viewer.waitForWindow());
     ASSERT_TRUE(viewer.keyUntilEnd("alt+F4"));
     expectGoodEndAndStored(viewer, "size=@Size(400 400)");
-    windowManager.terminate();
-    windowManager.waitForFinished();
 }

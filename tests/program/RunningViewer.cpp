@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
+#include <utility>
 
 namespace {
 
@@ -49,7 +50,10 @@ int saturatedPixels(const QImage& image) {
 } // namespace
 
 RunningViewer::RunningViewer(QSize windowSize)
-    : display(qEnvironmentVariable("DISPLAY"))
+    : RunningViewer(qEnvironmentVariable("DISPLAY"), windowSize) {}
+
+RunningViewer::RunningViewer(QString otherDisplay, QSize windowSize)
+    : display(std::move(otherDisplay))
     , size(windowSize) {
     QDir(home.path()).mkpath("Trolltech");
     QFile settings(home.filePath("Trolltech/MDI Viewer.conf"));
@@ -62,8 +66,8 @@ RunningViewer::RunningViewer(QSize windowSize)
     start();
 }
 
-RunningViewer::RunningViewer(const QString& otherDisplay)
-    : display(otherDisplay) {
+RunningViewer::RunningViewer(QString otherDisplay)
+    : display(std::move(otherDisplay)) {
     start();
 }
 
@@ -117,6 +121,10 @@ bool RunningViewer::waitForWindowFoundBy(const QStringList& criterion) const {
     });
 }
 
+QString RunningViewer::windowId() const {
+    return xdotool({"search", "--name", mainWindowTitle}).value_or(QString()).trimmed();
+}
+
 bool RunningViewer::waitForWindow() const {
     return waitForWindowFoundBy({"--name", mainWindowTitle});
 }
@@ -146,7 +154,10 @@ void RunningViewer::key(const QString& name) const {
 
 QImage RunningViewer::screen() const {
     const QString file = home.filePath("screen.png");
-    QProcess::execute("import", {"-window", "root", file});
+    QProcess camera;
+    camera.setProcessEnvironment(environmentOn(display));
+    camera.start("import", {"-window", "root", file});
+    camera.waitForFinished();
     return QImage(file).convertToFormat(QImage::Format_RGB32);
 }
 
@@ -164,6 +175,10 @@ bool RunningViewer::waitUntilLike(const QRect& part, const QImage& picture) cons
     return waitUntil([&] { return screen(part) == picture; });
 }
 
+bool RunningViewer::waitUntilUnlike(const QRect& part, const QImage& picture) const {
+    return waitUntil([&] { return screen(part) != picture; });
+}
+
 QPoint RunningViewer::surfaceIn(const QRect& view) const {
     const QImage image = screen(view);
     for (int y = image.height() / 3; y < image.height(); y += 3) {
@@ -175,6 +190,22 @@ QPoint RunningViewer::surfaceIn(const QRect& view) const {
         }
     }
     return {};
+}
+
+qint64 RunningViewer::waits() const {
+    QFile status(QString("/proc/%1/task/%1/status").arg(process.processId()));
+    status.open(QIODevice::ReadOnly);
+    const QString label = "\nvoluntary_ctxt_switches:";
+    return QString(status.readAll()).section(label, 1).section('\n', 0, 0).toLongLong();
+}
+
+bool RunningViewer::waitUntilAtRest() const {
+    constexpr unsigned long second = 1000;
+    return waitUntil([&] {
+        const qint64 before = waits();
+        QThread::msleep(second);
+        return waits() == before;
+    });
 }
 
 bool RunningViewer::closeBeforeItIsShown() const {

@@ -13,7 +13,9 @@ public:
     /** Starts the program with its window at the screen's corner, all four views tiled. */
     explicit RunningViewer(QSize size = QSize(1000, 800));
     /** Starts the program on another display, without stored settings. */
-    explicit RunningViewer(const QString& display);
+    explicit RunningViewer(QString display);
+    /** Starts the program on another display, its window of this size. */
+    RunningViewer(QString display, QSize size);
     ~RunningViewer();
     RunningViewer(const RunningViewer&) = delete;
     RunningViewer& operator=(const RunningViewer&) = delete;
@@ -27,6 +29,9 @@ public:
     QRect xView() const { return quarter(0, 1); }
     QRect uView() const { return quarter(1, 1); }
     QRect statusBar() const;
+
+    /** The identifier of the main window, as the window system and xdotool know it. */
+    QString windowId() const;
 
     /** Waits until the main window is on the screen. */
     bool waitForWindow() const;
@@ -46,11 +51,18 @@ public:
     QImage screen(const QRect& part) const { return screen().copy(part); }
     /** Waits until a part of the screen differs from a picture and is at rest. */
     bool waitUntilChanged(const QRect& part, const QImage& before) const;
+    /** Waits until a part of the screen differs from a picture, moving or not. */
+    bool waitUntilUnlike(const QRect& part, const QImage& picture) const;
     /** Waits until a part of the screen is like a picture again. */
     bool waitUntilLike(const QRect& part, const QImage& picture) const;
 
     /** A place in a view where the surface is seen: a saturated pixel near the middle. */
     QPoint surfaceIn(const QRect& view) const;
+
+    /** How often the thread that handles events has begun to wait since the start. */
+    qint64 waits() const;
+    /** Waits until the thread that handles events has slept for a second. */
+    bool waitUntilAtRest() const;
 
     /** Asks the main window to close as soon as it exists, before it is on the screen. */
     bool closeBeforeItIsShown() const;

@@ -45,6 +45,9 @@ public:
         return taken;
     }
 
+    /** Times drawn since the last take(), as of now: for views that are always about to be drawn. */
+    int soFar() const { return count; }
+
 private:
     static void countDrawing(void* counter, SoAction* action) {
         if (action->isOfType(SoGLRenderAction::getClassTypeId())) {

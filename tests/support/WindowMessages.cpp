@@ -3,9 +3,18 @@
 #include <X11/Xlib.h>
 #include <memory>
 
+namespace {
+
+using Connection = std::unique_ptr<Display, int (*)(Display*)>;
+
+Connection connectTo(const std::string& display) {
+    return {XOpenDisplay(display.c_str()), XCloseDisplay};
+}
+
+} // namespace
+
 bool askToClose(const std::string& display, unsigned long window) {
-    const std::unique_ptr<Display, int (*)(Display*)> connection(XOpenDisplay(display.c_str()),
-                                                                 XCloseDisplay);
+    const Connection connection = connectTo(display);
     if (connection == nullptr) {
         return false;
     }
@@ -18,4 +27,12 @@ bool askToClose(const std::string& display, unsigned long window) {
         static_cast<long>(XInternAtom(connection.get(), "WM_DELETE_WINDOW", False));
     message.xclient.data.l[1] = CurrentTime;
     return XSendEvent(connection.get(), window, False, NoEventMask, &message) != 0;
+}
+
+bool placeWindow(const std::string& display, unsigned long window, int x, int y, int width,
+                 int height) {
+    const Connection connection = connectTo(display);
+    return connection != nullptr &&
+           XMoveResizeWindow(connection.get(), window, x, y, static_cast<unsigned>(width),
+                             static_cast<unsigned>(height)) != 0;
 }

@@ -1,0 +1,117 @@
+#include "tests/support/OpenedWindow.h"
+#include "tests/support/RedrawCounter.h"
+#include "viewer/SoQtGeneralViewer.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/** An opened window whose X view spins. */
+class SpinningView {
+public:
+    SpinningView()
+        : counter(frame()) {
+        const ViewDriver view(frame());
+        view.drag(Qt::LeftButton, QPoint(100, 100), QPoint(140, 125));
+        EXPECT_TRUE(frame().getViewer()->isAnimating());
+        EXPECT_TRUE(goesOn());
+    }
+
+    HyperboloidFrame& frame() const { return opened.hyperboloid(Hyperboloid::XSPACE); }
+    QMdiSubWindow& document() const { return opened.subWindow(frame()); }
+
+    /** Whether the view is drawn again and again. */
+    bool goesOn() const {
+        constexpr int several = 5;
+        const int before = counter.soFar();
+        return waitUntil([&] { return counter.soFar() >= before + several; });
+    }
+
+    /** Expects that no drawing is pending: then none will follow, as each asks for the next. */
+    void expectPauses() {
+        counter.take();
+        QTest::qWait(100);
+        EXPECT_EQ(counter.take(), 0);
+        EXPECT_TRUE(frame().getViewer()->isAnimating());
+    }
+
+    OpenedWindow opened;
+    RedrawCounter counter;
+};
+
+} // namespace
+
+TEST(UnseenView, SpinPausesWhileTheMainWindowIsMinimised) {
+    SpinningView spinning;
+    spinning.opened.window().showMinimized();
+    spinning.expectPauses();
+    spinning.opened.window().showNormal();
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinPausesWhileTheMainWindowIsHidden) {
+    SpinningView spinning;
+    spinning.opened.window().hide();
+    spinning.expectPauses();
+    spinning.opened.window().show();
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinPausesWhileItsDocumentIsMinimised) {
+    SpinningView spinning;
+    spinning.document().showMinimized();
+    spinning.expectPauses();
+    spinning.document().showNormal();
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinPausesBehindAMaximisedDocument) {
+    SpinningView spinning;
+    QMdiSubWindow& other =
+        spinning.opened.subWindow(spinning.opened.hyperboloid(Hyperboloid::USPACE));
+    other.showMaximized();
+    spinning.expectPauses();
+    other.showNormal();
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinPausesOutsideTheDocumentsArea) {
+    SpinningView spinning;
+    const QPoint place = spinning.document().pos();
+    spinning.document().move(5000, place.y());
+    spinning.expectPauses();
+    spinning.document().move(place);
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinGoesOnAsLongAsACornerIsSeen) {
+    SpinningView spinning;
+    const HyperboloidFrame& u = spinning.opened.hyperboloid(Hyperboloid::USPACE);
+    QMdiSubWindow& other = spinning.opened.subWindow(u);
+    spinning.opened.activate(u);
+    const QWidget& view = ViewDriver(spinning.frame()).widget();
+    const QRect place(view.mapTo(spinning.opened.area().viewport(), QPoint(0, 0)), view.size());
+    constexpr int corner = 7;
+    constexpr int beyond = 20;
+    other.setGeometry(place.adjusted(corner, corner, beyond, beyond));
+    EXPECT_TRUE(spinning.goesOn());
+    other.setGeometry(place.adjusted(-beyond, -beyond, beyond, beyond));
+    spinning.expectPauses();
+}
+
+TEST(UnseenView, ChangeOfAnUnseenViewIsShownWhenItIsSeenAgain) {
+    const OpenedWindow opened;
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    QMdiSubWindow& other = opened.subWindow(opened.hyperboloid(Hyperboloid::USPACE));
+    const QImage before = ViewDriver(x).grab();
+    other.showMaximized();
+    RedrawCounter::settle();
+    x.toggleDrawStyle();
+    RedrawCounter::settle();
+    other.showNormal();
+    opened.action("tileAct").trigger();
+    EXPECT_TRUE(waitUntil([&] {
+        const QImage now = ViewDriver(x).grab();
+        return now.size() == before.size() && now != before && ViewDriver(x).isDrawn();
+    }));
+}
