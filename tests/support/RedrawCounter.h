@@ -45,7 +45,8 @@ public:
         return taken;
     }
 
-    /** Times drawn since the last take(), as of now: for views that are always about to be drawn. */
+    /** Times drawn since the last take(), as of now: for views that are always about to be drawn.
+     */
     int soFar() const { return count; }
 
 private:
