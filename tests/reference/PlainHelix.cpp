@@ -65,37 +65,36 @@ void PlainHelix::init_tables(bool line, bool tube, bool ribbon) {
     }
 }
 
-Vecteur PlainHelix::get_v(float s) {
+PlainVector PlainHelix::get_v(float s) {
     const float theta = omega * s;
     return {-cosf(theta), -sinf(theta), 0};
 }
 
-Vecteur PlainHelix::get_b(float s) {
+PlainVector PlainHelix::get_b(float s) {
     const float theta = omega * s;
     return {pitch * omega * sinf(theta), -pitch * omega * cosf(theta), radius * omega};
 }
 
-Vecteur PlainHelix::d1_from_v_b(Vecteur v, Vecteur b) {
-    return v * static_cast<double>(cosf(phi)) + b * static_cast<double>(sinf(phi));
+PlainVector PlainHelix::d1_from_v_b(PlainVector v, PlainVector b) {
+    return sum(scaled(static_cast<double>(cosf(phi)), v),
+               scaled(static_cast<double>(sinf(phi)), b));
 }
 
-void PlainHelix::computePositionForParams(const std::array<float, 3>& center, Vecteur v, Vecteur b,
-                                          std::array<float, 3>& out, float angle) {
-    for (int c = 0; c < 3; ++c) {
-        const auto component = static_cast<std::size_t>(c);
+void PlainHelix::computePositionForParams(const std::array<float, 3>& center, PlainVector v,
+                                          PlainVector b, std::array<float, 3>& out, float angle) {
+    for (std::size_t component = 0; component < 3; ++component) {
         out[component] =
             static_cast<float>(static_cast<double>(center[component]) +
-                               static_cast<double>(tubeR * cosf(angle)) * v.GetCoord(c) +
-                               static_cast<double>(tubeR * sinf(angle)) * b.GetCoord(c));
+                               static_cast<double>(tubeR * cosf(angle)) * v[component] +
+                               static_cast<double>(tubeR * sinf(angle)) * b[component]);
     }
 }
 
 void PlainHelix::computeRibbon(std::array<float, 3>& out, const std::array<float, 3>& center,
-                               Vecteur d) {
-    for (int c = 0; c < 3; ++c) {
-        const auto component = static_cast<std::size_t>(c);
+                               PlainVector d) {
+    for (std::size_t component = 0; component < 3; ++component) {
         out[component] = static_cast<float>(static_cast<double>(center[component]) +
-                                            static_cast<double>(ribRange) * d.GetCoord(c));
+                                            static_cast<double>(ribRange) * d[component]);
     }
 }
 
@@ -105,9 +104,9 @@ void PlainHelix::generatePoints(bool line, bool tube, bool ribbon) {
             static_cast<float>(static_cast<double>(nTurns) * 6.283185307179586 * i /
                                (nbLineVertices - 1) * (1.0 / static_cast<double>(omega)));
         const float theta = omega * s;
-        const Vecteur v = get_v(s);
-        const Vecteur b = get_b(s);
-        const Vecteur d = d1_from_v_b(v, b);
+        const PlainVector v = get_v(s);
+        const PlainVector b = get_b(s);
+        const PlainVector d = d1_from_v_b(v, b);
         if (line) {
             lineVertices[i][0] = radius * cosf(theta);
             lineVertices[i][1] = radius * sinf(theta);
@@ -128,7 +127,7 @@ void PlainHelix::generatePoints(bool line, bool tube, bool ribbon) {
         }
         if (ribbon) {
             const std::size_t k = 2 * static_cast<std::size_t>(i);
-            computeRibbon(ribbonVertices[k], lineVertices[i], Vecteur(0, 0, 0));
+            computeRibbon(ribbonVertices[k], lineVertices[i], {0, 0, 0});
             computeRibbon(ribbonVertices[k + 1], lineVertices[i], d);
             computeColor(lineVertices[i], ribbonColors[k]);
             computeColor(lineVertices[i], ribbonColors[k + 1]);

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "math/Vecteur.h"
+#include "tests/reference/PlainVector.h"
 
 #include <array>
 #include <vector>
 
 /**
  * The helix computed the plain way: run-time vectors by value, and every number computed where its
- * formula stands. It shares no code with the model; the tests compare the model's bits with it, the
- * benchmarks the model's speed. It guards nothing: at least two vertices per line and per ring.
+ * formula stands. It shares no code with the model, and none of its arithmetic; the tests compare
+ * the model's bits with it, the benchmarks the model's speed. It guards nothing: at least two
+ * vertices per line and per ring.
  */
 class PlainHelix {
 public:
@@ -40,10 +41,11 @@ public:
     Table ribbonColors;
 
 private:
-    Vecteur get_v(float s);
-    Vecteur get_b(float s);
-    Vecteur d1_from_v_b(Vecteur v, Vecteur b);
-    void computePositionForParams(const std::array<float, 3>& center, Vecteur v, Vecteur b,
+    PlainVector get_v(float s);
+    PlainVector get_b(float s);
+    PlainVector d1_from_v_b(PlainVector v, PlainVector b);
+    void computePositionForParams(const std::array<float, 3>& center, PlainVector v, PlainVector b,
                                   std::array<float, 3>& out, float angle);
-    void computeRibbon(std::array<float, 3>& out, const std::array<float, 3>& center, Vecteur d);
+    void computeRibbon(std::array<float, 3>& out, const std::array<float, 3>& center,
+                       PlainVector d);
 };

@@ -35,21 +35,20 @@ double channelValue(double hue, double p, double q) {
 } // namespace
 
 PlainHyperboloid::PlainHyperboloid(const Parameters& parameters)
-    : lambda(3)
-    , shift(3)
-    , given(parameters)
+    : given(parameters)
     , K{static_cast<float>(given.K1), static_cast<float>(given.K2), static_cast<float>(given.K3),
         static_cast<float>(given.K13), static_cast<float>(given.K23)}
-    , KMatrix(given.K1, 0, given.K13, 0, given.K2, given.K23, given.K13, given.K23, given.K3)
-    , U(given.U1, given.U2, given.U3)
+    , KMatrix{PlainVector{given.K1, 0, given.K13}, PlainVector{0, given.K2, given.K23},
+              PlainVector{given.K13, given.K23, given.K3}}
+    , U{given.U1, given.U2, given.U3}
     , vertices(std::size_t{3} * given.numCol * given.numRow)
     , colors(vertices.size())
     , energies(vertices.size() / 3) {
     derivePnas();
     deriveLambda();
     deriveShift();
-    rotationMatrix = Matrice(1, 1, -d - b, 1, -1, d - b, 0, 0, 1);
-    for (int i = 0; i < 3; ++i) {
+    rotationMatrix = {PlainVector{1, 1, -d - b}, PlainVector{1, -1, d - b}, PlainVector{0, 0, 1}};
+    for (std::size_t i = 0; i < 3; ++i) {
         semiAxis[i] = static_cast<float>(std::sqrt(1.0 / lambda[i]));
     }
 }
@@ -68,7 +67,7 @@ void PlainHyperboloid::derivePnas() {
 void PlainHyperboloid::deriveLambda() {
     const float sigma = b * c + a * d;
     if (b * d == 0 || sigma == 0) {
-        lambda = Vecteur(1.0, 1.0, 1.0);
+        lambda = {1.0, 1.0, 1.0};
         return;
     }
     const double quotient =
@@ -76,9 +75,9 @@ void PlainHyperboloid::deriveLambda() {
     const auto k = static_cast<float>(a * c + quotient);
     swapAxes = b * d < 0;
     if (swapAxes) {
-        lambda = Vecteur(1.0 / (4.0 * k), 1.0 / (4.0 * k), (-b * d) / k);
+        lambda = {1.0 / (4.0 * k), 1.0 / (4.0 * k), (-b * d) / k};
     } else {
-        lambda = Vecteur(-1.0 / (4.0 * k), -1.0 / (4.0 * k), (-b * d) / k);
+        lambda = {-1.0 / (4.0 * k), -1.0 / (4.0 * k), (-b * d) / k};
     }
 }
 
@@ -86,11 +85,11 @@ void PlainHyperboloid::deriveShift() {
     if (b * d == 0) {
         return;
     }
-    shift = Vecteur(-c - a, c - a, (b * c + a * d) / (2.0F * b * d));
+    shift = {-c - a, c - a, (b * c + a * d) / (2.0F * b * d)};
 }
 
 void PlainHyperboloid::generate() {
-    Vecteur p(3);
+    PlainVector p(3);
     for (unsigned int i = 0; i < given.numCol; ++i) {
         for (unsigned int j = 0; j < given.numRow; ++j) {
             const auto theta =
@@ -100,25 +99,23 @@ void PlainHyperboloid::generate() {
             const auto t = static_cast<float>(
                 (2.0 * h * j) / static_cast<double>(static_cast<float>(given.numRow - 1)) - h);
             const double r = std::sqrt(static_cast<double>(t * t) + 1.0);
-            const int w = swapAxes ? 1 : 0;
-            p[1 - w] =
-                static_cast<double>(std::cos(theta)) * r *
-                (w * static_cast<double>(semiAxis[0]) + (1 - w) * static_cast<double>(semiAxis[1]));
+            const std::size_t w = swapAxes ? 1 : 0;
+            const double share = swapAxes ? 1 : 0;
+            p[1 - w] = static_cast<double>(std::cos(theta)) * r *
+                       (share * static_cast<double>(semiAxis[0]) +
+                        (1 - share) * static_cast<double>(semiAxis[1]));
             p[2] = static_cast<double>(std::sin(theta)) * static_cast<double>(semiAxis[2]) * r;
-            p[w] = static_cast<double>(t) * (w * static_cast<double>(semiAxis[1]) +
-                                             (1 - w) * static_cast<double>(semiAxis[0]));
+            p[w] = static_cast<double>(t) * (share * static_cast<double>(semiAxis[1]) +
+                                             (1 - share) * static_cast<double>(semiAxis[0]));
             if (given.space == U_SPACE || given.space == M_SPACE) {
-                p = p - shift;
-                p = rotationMatrix.inv() * p;
+                p = product(inverse(rotationMatrix), difference(p, shift));
             }
             if (given.space == M_SPACE) {
-                p = p - U;
-                p = KMatrix * p;
+                p = product(KMatrix, difference(p, U));
             }
             const std::size_t k = static_cast<std::size_t>(i) * given.numRow + j;
-            for (int component = 0; component < 3; ++component) {
-                vertices[3 * k + static_cast<std::size_t>(component)] =
-                    static_cast<float>(p[component]);
+            for (std::size_t component = 0; component < 3; ++component) {
+                vertices[3 * k + component] = static_cast<float>(p[component]);
             }
             if (given.space == U_SPACE) {
                 energies[k] = static_cast<float>(energyOf(&vertices[3 * k]));
@@ -141,8 +138,8 @@ void PlainHyperboloid::recolor() {
 }
 
 double PlainHyperboloid::energyOf(const float* u) {
-    const Vecteur w(u[0] - U[0], u[1] - U[1], u[2] - U[2]);
-    return (KMatrix * w) * w;
+    const PlainVector w = difference({u[0], u[1], u[2]}, U);
+    return dotProduct(product(KMatrix, w), w);
 }
 
 void PlainHyperboloid::normalizeEnergies() {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "math/Matrice.h"
-#include "math/Vecteur.h"
+#include "tests/reference/PlainVector.h"
 
 #include <cstddef>
 #include <vector>
@@ -10,8 +9,8 @@
  * The hyperboloid computed the plain way: run-time vectors and matrices by value, and every number
  * computed at every vertex, where its formula stands.
  *
- * It shares no code with the model. The tests compare the model's bits with it, the benchmarks the
- * model's speed.
+ * It shares no code with the model, and none of its arithmetic. The tests compare the model's bits
+ * with it, the benchmarks the model's speed.
  */
 class PlainHyperboloid {
 public:
@@ -42,9 +41,9 @@ public:
     float a = 0, b = 0, c = 0, d = 0;
     bool swapAxes = false;
     float semiAxis[3] = {};
-    Vecteur lambda;
-    Vecteur shift;
-    Matrice rotationMatrix;
+    PlainVector lambda{0, 0, 0};
+    PlainVector shift{0, 0, 0};
+    PlainMatrix rotationMatrix;
 
 private:
     void derivePnas();
@@ -56,8 +55,8 @@ private:
 
     Parameters given;
     float K[5];
-    Matrice KMatrix;
-    Vecteur U;
+    PlainMatrix KMatrix;
+    PlainVector U;
     std::vector<float> vertices;
     std::vector<float> colors;
     std::vector<float> energies;
