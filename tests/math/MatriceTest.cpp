@@ -77,9 +77,9 @@ TEST(Matrice, OfTwoAnglesIsARotation) {
 }
 
 TEST(Matrice, RotationsHaveDeterminantOneAndTransposeToTheirInverse) {
-    for (double a = -4; a < 4; a += 0.37) {
-        for (double b = -4; b < 4; b += 0.41) {
-            Matrice rotation(a, b);
+    for (int i = 0; i < 22; ++i) {
+        for (int j = 0; j < 20; ++j) {
+            Matrice rotation(-4 + 0.37 * i, -4 + 0.41 * j);
             EXPECT_NEAR(rotation.det(), 1, 1e-14);
             expectNear(rotation.transp(), rotation.inv(), 1e-14);
         }
@@ -159,6 +159,38 @@ TEST(Matrice, InverseUndoesTheMatrix) {
     expectEqual(Matrice(2, 4, 8).inv(), Matrice(0.5, 0.25, 0.125));
     expectNear(counting() * counting().inv(), Matrice(), 1e-14);
     expectNear(counting().inv() * counting(), Matrice(), 1e-14);
+}
+
+TEST(Matrice, InverseMultipliesTheAdjugateByTheReciprocalOfTheDeterminant) {
+    const double m[3][3] = {{1.1, 0.7, -0.3}, {0.2, 1.9, 0.53}, {-0.41, 0.6, 2.3}};
+    const double adjugate[3][3] = {
+        {m[1][1] * m[2][2] - m[1][2] * m[2][1], m[0][2] * m[2][1] - m[0][1] * m[2][2],
+         m[0][1] * m[1][2] - m[0][2] * m[1][1]},
+        {m[1][2] * m[2][0] - m[1][0] * m[2][2], m[0][0] * m[2][2] - m[0][2] * m[2][0],
+         m[0][2] * m[1][0] - m[0][0] * m[1][2]},
+        {m[1][0] * m[2][1] - m[1][1] * m[2][0], m[0][1] * m[2][0] - m[0][0] * m[2][1],
+         m[0][0] * m[1][1] - m[0][1] * m[1][0]}};
+    const double determinant = m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]) +
+                               (m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) -
+                                m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]));
+    Matrice inverse =
+        Matrice(m[0][0], m[0][1], m[0][2], m[1][0], m[1][1], m[1][2], m[2][0], m[2][1], m[2][2])
+            .inv();
+    int differences = 0;
+    for (int i = 0; i < 3; ++i) {
+        for (int j = 0; j < 3; ++j) {
+            EXPECT_EQ(inverse[i][j], adjugate[i][j] * (1.0 / determinant)) << i << ", " << j;
+            differences += adjugate[i][j] / determinant != inverse[i][j] ? 1 : 0;
+        }
+    }
+    EXPECT_GT(differences, 0) << "the two ways to divide must differ here";
+}
+
+TEST(Matrice, ProductSumsFromTheFirstTermToTheLast) {
+    // From the last term to the first the sum is 1.
+    Matrice product =
+        Matrice(1, 1e16, -1e16, 0, 0, 0, 0, 0, 0) * Matrice(1, 0, 0, 1, 0, 0, 1, 0, 0);
+    EXPECT_EQ(product[0][0], 0.0);
 }
 
 TEST(Matrice, InverseOfASingularMatrixIsNotFiniteAndThrowsNothing) {
