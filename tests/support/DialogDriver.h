@@ -23,6 +23,7 @@ public:
     DialogDriver() = default;
     explicit DialogDriver(std::vector<Step> all)
         : steps(std::move(all)) {}
+    ~DialogDriver() = default;
     DialogDriver(const DialogDriver&) = delete;
     DialogDriver& operator=(const DialogDriver&) = delete;
 

@@ -16,6 +16,7 @@ public:
         sensor.setPriority(0); // at once
         sensor.attach(&watchedGroup);
     }
+    ~ReplacementCounter() = default;
     ReplacementCounter(const ReplacementCounter&) = delete;
     ReplacementCounter& operator=(const ReplacementCounter&) = delete;
 
