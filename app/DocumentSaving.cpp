@@ -23,19 +23,20 @@ namespace {
 
 constexpr int printerDotsPerInch = 300;
 
-/** Lets a stream write to a file of the toolkit's. */
-class DeviceBuffer : public std::streambuf {
+/** Lets a stream write to a file, which remembers its first failure. */
+class FileBuffer : public std::streambuf {
 public:
-    explicit DeviceBuffer(QIODevice& target)
-        : device(target) {}
+    explicit FileBuffer(WholeFile& target)
+        : file(target) {}
 
 protected:
     std::streamsize xsputn(const char* text, std::streamsize count) override {
-        return device.write(text, count);
+        file.write(text, static_cast<std::size_t>(count));
+        return count;
     }
 
 private:
-    QIODevice& device;
+    WholeFile& file;
 };
 
 QString translated(const char* text) {
@@ -53,9 +54,8 @@ QString notSaved(const QString& fileName, const QString& reason) {
     return text;
 }
 
-/** The device remembers its first failure. */
-void writeNumbers(QIODevice& device, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
-    DeviceBuffer buffer(device);
+void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
+    FileBuffer buffer(file);
     std::ostream stream(&buffer);
     if (isHyperboloid) {
         DataExport::writeHyperboloid(stream, *qobject_cast<const HyperboloidFrame*>(&frame));
@@ -81,7 +81,7 @@ QString writePicture(int handle, const SoQtGeneralViewerFrame& frame) {
 
 /** Says on standard output whether the whole picture was written; returns what to tell the user. */
 QString writeImage(const QString& fileName, WholeFile& file, const SoQtGeneralViewerFrame& frame) {
-    QString failure = writePicture(file.device().handle(), frame);
+    QString failure = writePicture(file.handle(), frame);
     if (failure.isEmpty() && !file.commit()) {
         failure = file.errorString();
     }
@@ -110,7 +110,7 @@ QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralView
         // On purpose a file that cannot be opened is not reported.
         return file.isWritableInPlace() ? notSaved(fileName, file.errorString()) : QString();
     }
-    writeNumbers(file.device(), frame, isHyperboloid);
+    writeNumbers(file, frame, isHyperboloid);
     return file.commit() ? saved(fileName) : notSaved(fileName, file.errorString());
 }
 

@@ -1,6 +1,5 @@
 #include "app/WholeFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 #include <csignal>
@@ -15,15 +14,14 @@ namespace fs = std::filesystem;
 /** As many links in a row as the system follows. */
 constexpr int mostLinks = 40;
 
-/**
- * The file that is meant by a name: QSaveFile would replace the second of two links in a row. What
- * is no file keeps its name. Empty when links lead nowhere.
- */
+bool isNoFile(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(path, error) && !fs::is_regular_file(path, error);
+}
+
+/** The file that is meant by a name, which may not be there yet; empty when links lead nowhere. */
 fs::path behindLinks(fs::path path) {
     std::error_code error;
-    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) {
-        return path;
-    }
     for (int i = 0; fs::is_symlink(path, error); ++i) {
         if (i == mostLinks) {
             return {};
@@ -34,9 +32,8 @@ fs::path behindLinks(fs::path path) {
     return path;
 }
 
-QString behindLinks(const QString& fileName) {
-    const fs::path path(QFile::encodeName(fileName).constData());
-    return QFile::decodeName(behindLinks(path).c_str());
+QString systemError() {
+    return QString::fromLocal8Bit(std::strerror(errno));
 }
 
 /** Some file systems notice only now that they are full; pipes and devices know no such thing. */
@@ -48,41 +45,56 @@ bool reachesTheDisk(int handle) {
 
 WholeFile::WholeFile(const QString& fileName)
     : previousHandler(std::signal(SIGPIPE, SIG_IGN))
-    , file(behindLinks(fileName)) {
-    if (!file.fileName().isEmpty() && !file.open(QIODevice::WriteOnly)) {
-        failure = file.errorString();
+    , direct(fileName) {
+    const fs::path path(QFile::encodeName(fileName).constData());
+    // QSaveFile would put a file in a device's place, and in that of the second of two links.
+    if (isNoFile(path)) {
+        direct.open(QIODevice::WriteOnly);
+        return;
+    }
+    replacement.setFileName(QFile::decodeName(behindLinks(path).c_str()));
+    if (!replacement.fileName().isEmpty() && !replacement.open(QIODevice::WriteOnly)) {
+        failure = replacement.errorString();
     }
 }
 
 WholeFile::~WholeFile() {
-    discard();
     std::signal(SIGPIPE, previousHandler);
 }
 
+int WholeFile::handle() const {
+    return direct.isOpen() ? direct.handle() : replacement.handle();
+}
+
+void WholeFile::write(const char* text, std::size_t size) {
+    // Not by way of the toolkit, which takes the half that found room for the whole.
+    std::size_t written = 0;
+    while (failure.isEmpty() && written < size) {
+        const ssize_t count = ::write(handle(), text + written, size - written);
+        if (count >= 0) {
+            written += static_cast<std::size_t>(count);
+        } else if (errno != EINTR) {
+            failure = systemError();
+        }
+    }
+}
+
 bool WholeFile::isWritableInPlace() const {
-    const QFileInfo info(file.fileName());
+    if (replacement.fileName().isEmpty()) {
+        return false;
+    }
+    const QFileInfo info(replacement.fileName());
     const QFileInfo folder(info.path());
     return info.exists() ? !info.isDir() && info.isWritable()
                          : folder.isDir() && folder.isWritable();
 }
 
 bool WholeFile::commit() {
-    // QSaveFile forgets the errors of what it writes to directly.
-    if (!file.flush() || file.error() != QFileDevice::NoError) {
-        failure = file.errorString();
-    } else if (!reachesTheDisk(file.handle())) {
-        failure = QString::fromLocal8Bit(std::strerror(errno));
-    } else if (!file.commit()) {
-        failure = file.errorString();
+    if (failure.isEmpty() && !reachesTheDisk(handle())) {
+        failure = systemError();
     }
-    discard();
+    if (failure.isEmpty() && !direct.isOpen() && !replacement.commit()) {
+        failure = replacement.errorString();
+    }
     return failure.isEmpty();
-}
-
-void WholeFile::discard() {
-    if (file.isOpen()) {
-        // Without commit() the destructor removes what was written to directly: a device.
-        file.cancelWriting();
-        file.commit();
-    }
 }

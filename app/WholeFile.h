@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QSaveFile>
 #include <QString>
 
@@ -17,7 +18,7 @@ public:
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
 
-    bool isOpen() const { return file.isOpen(); }
+    bool isOpen() const { return direct.isOpen() || replacement.isOpen(); }
 
     /**
      * Whether a file that could not be opened could have been, had it been written in place: the
@@ -25,20 +26,22 @@ public:
      */
     bool isWritableInPlace() const;
 
-    /** Where to write to. Half of what is written may still be in its buffer. */
-    QFileDevice& device() { return file; }
+    /** Writes more of the content; after a failure nothing more is written, and commit() fails. */
+    void write(const char* text, std::size_t size);
+
+    /** Where the system writes to, for a stream of its own. Its failures are unknown here. */
+    int handle() const;
 
     /** Gives the file its name; false when it could not be written wholly, and nothing changed. */
     bool commit();
 
-    /** In words, why the file could not be opened, or committed. */
+    /** In words, why the file could not be opened or written; empty as long as all is well. */
     QString errorString() const { return failure; }
 
 private:
-    /** Leaves no trace. */
-    void discard();
-
     void (*previousHandler)(int);
-    QSaveFile file;
+    /** What is no file, open in place of the replacement. */
+    QFile direct;
+    QSaveFile replacement;
     QString failure;
 };

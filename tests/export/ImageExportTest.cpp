@@ -2,7 +2,9 @@
 
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
+#include "tests/support/LargestFileSize.h"
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/SmallDisk.h"
 #include "viewer/OffscreenContexts.h"
 #include "viewer/SoQtGeneralViewer.h"
 
@@ -18,9 +20,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <clocale>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 namespace {
 
@@ -72,27 +72,6 @@ void lookFrom(SoCamera& camera, const SbRotation& orientation) {
     camera.orientation = orientation;
     camera.position = centre - ahead();
 }
-
-/** As long as it lives, no file can grow larger than so many bytes: like a disk that gets full. */
-class LargestFileSize {
-public:
-    explicit LargestFileSize(rlim_t bytes)
-        : previousHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &previous);
-        const rlimit limited{bytes, previous.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~LargestFileSize() {
-        setrlimit(RLIMIT_FSIZE, &previous);
-        std::signal(SIGXFSZ, previousHandler);
-    }
-    LargestFileSize(const LargestFileSize&) = delete;
-    LargestFileSize& operator=(const LargestFileSize&) = delete;
-
-private:
-    rlimit previous{};
-    void (*previousHandler)(int);
-};
 
 class ImageExportTest : public testing::Test {
 protected:
