@@ -197,28 +197,27 @@ TEST_F(PictureTest, HeadlightThatIsSwitchedOffShinesOnAsOnTheScreen) {
 }
 
 TEST_F(PictureTest, MinimisedViewIsPrintedAsItIsAtThisMoment) {
-    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
-    for (const Qt::Key camera : {Qt::Key_O, Qt::Key_P}) {
-        resizeToWholeInches(x, 5, 4);
-        ViewDriver(x).key(camera);
-        screenOf(x);
-        opened.subWindow(x).showMinimized();
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const SoQtGeneralViewer& viewer = *u.getViewer();
+    for (const bool perspective : {false, true}) {
+        resizeToWholeInches(u, 5, 4);
+        ViewDriver(u).key(perspective ? Qt::Key_P : Qt::Key_O);
+        screenOf(u);
+        opened.subWindow(u).showMinimized();
         settleRedraws();
-        const bool first = camera == Qt::Key_O;
-        opened.window().refresh_hyperboloids(1.37, 2.91, 1.93, first ? 0.61 : 0.2, -0.43, 0.83,
-                                             -0.29, 0.17, 41, 37, 0.3, first ? 13.1 : 31.7, 9.3,
-                                             0.02, 0.03);
-        x.getViewer()->getHeadlight()->intensity = first ? 0.31F : 0.83F;
-        const float lastNearest = x.getViewer()->getCamera()->nearDistance.getValue();
-        const float lastFarthest = x.getViewer()->getCamera()->farDistance.getValue();
-        const QImage print = printOf(x);
-        EXPECT_EQ(x.getViewer()->getCamera()->nearDistance.getValue(), lastNearest);
-        EXPECT_EQ(x.getViewer()->getCamera()->farDistance.getValue(), lastFarthest);
-        EXPECT_TRUE(opened.subWindow(x).isMinimized());
-        resizeToWholeInches(x, 5, 4);
-        const QImage screen = screenOf(x);
-        EXPECT_NE(x.getViewer()->getCamera()->farDistance.getValue(), lastFarthest);
-        EXPECT_LT(difference(screen, print, x), filledTolerance) << camera;
+        opened.window().refresh_hyperboloids(1.07, 1.61, 1.13, 0.47, perspective ? 0.37 : -0.53,
+                                             2.3, 0.71, 0.39, 41, 37, 0.3, 3.1, 3.3, 0.02, 0.03);
+        viewer.getHeadlight()->intensity = perspective ? 0.93F : 0.57F;
+        const float lastNearest = viewer.getCamera()->nearDistance.getValue();
+        const float lastFarthest = viewer.getCamera()->farDistance.getValue();
+        const QImage print = printOf(u);
+        EXPECT_TRUE(opened.subWindow(u).isMinimized());
+        EXPECT_EQ(viewer.getCamera()->nearDistance.getValue(), lastNearest);
+        EXPECT_EQ(viewer.getCamera()->farDistance.getValue(), lastFarthest);
+        resizeToWholeInches(u, 5, 4);
+        const QImage screen = screenOf(u);
+        EXPECT_NE(viewer.getCamera()->farDistance.getValue(), lastFarthest);
+        EXPECT_LT(difference(screen, print, u), filledTolerance) << perspective;
     }
 }
 
