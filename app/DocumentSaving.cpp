@@ -3,86 +3,132 @@
 #include "app/DataExport.h"
 #include "app/ImageExport.h"
 #include "app/Messages.h"
+#include "app/WholeFile.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
 
 #include <Inventor/nodes/SoSeparator.h>
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QPointer>
+#include <cerrno>
 #include <cstdio>
-#include <fstream>
+#include <cstring>
 #include <iostream>
+#include <ostream>
+#include <streambuf>
+#include <unistd.h>
 
 namespace {
 
 constexpr int printerDotsPerInch = 300;
 
-/** Half a picture might pass for a whole one. What is no file of its own, a device say, stays. */
-void removeHalfWritten(const QString& fileName) {
-    const QFileInfo target(fileName);
-    if (target.isFile() && !target.isSymLink()) {
-        QFile::remove(fileName);
+/** Lets a stream write to a file, which remembers its first failure. */
+class FileBuffer : public std::streambuf {
+public:
+    explicit FileBuffer(WholeFile& target)
+        : file(target) {}
+
+protected:
+    std::streamsize xsputn(const char* text, std::streamsize count) override {
+        file.write(text, static_cast<std::size_t>(count));
+        return count;
+    }
+
+private:
+    WholeFile& file;
+};
+
+QString translated(const char* text) {
+    return QCoreApplication::translate("MainWindow", text);
+}
+
+QString saved(const QString& fileName) {
+    return translated("Saved %1").arg(fileName);
+}
+
+/** Says it on standard error and returns it. */
+QString notSaved(const QString& fileName, const QString& reason) {
+    const QString text = translated("Not saved: %1 (%2)").arg(fileName, reason);
+    std::cerr << text.toLocal8Bit().constData() << std::endl;
+    return text;
+}
+
+void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
+    FileBuffer buffer(file);
+    std::ostream stream(&buffer);
+    if (isHyperboloid) {
+        DataExport::writeHyperboloid(stream, *qobject_cast<const HyperboloidFrame*>(&frame));
+    } else {
+        DataExport::writeHelix(stream, qobject_cast<const HelixFrame*>(&frame)->getHelix());
     }
 }
 
-void writeImage(const QString& fileName, std::FILE* file, const SoQtGeneralViewerFrame& frame) {
-    const bool rendered = ImageExport::printToPostScript(frame.getSceneRoot(), file,
-                                                         frame.getViewer(), printerDotsPerInch);
-    const bool closed = std::fclose(file) == 0;
-    const bool written = rendered && closed;
-    if (!written) {
-        std::cerr << "The image cannot be rendered or written." << std::endl;
-        removeHalfWritten(fileName);
+/** Renders and writes a picture; returns what hindered it, empty when it is whole. */
+QString writePicture(int handle, const SoQtGeneralViewerFrame& frame) {
+    std::FILE* file = fdopen(dup(handle), "w");
+    if (file == nullptr) {
+        return QString::fromLocal8Bit(std::strerror(errno));
     }
-    std::cout << "ok? " << written << std::endl;
+    const bool written = ImageExport::printToPostScript(frame.getSceneRoot(), file,
+                                                        frame.getViewer(), printerDotsPerInch);
+    const QString systemError = QString::fromLocal8Bit(std::strerror(errno));
+    const QString failure =
+        std::ferror(file) != 0 ? systemError : translated("the view cannot be rendered");
+    std::fclose(file);
+    return written ? QString() : failure;
+}
+
+/** Says on standard output whether the whole picture was written; returns what to tell the user. */
+QString writeImage(const QString& fileName, WholeFile& file, const SoQtGeneralViewerFrame& frame) {
+    QString failure = writePicture(file.handle(), frame);
+    if (failure.isEmpty() && !file.commit()) {
+        failure = file.errorString();
+    }
+    std::cout << "ok? " << failure.isEmpty() << std::endl;
+    return failure.isEmpty() ? saved(fileName) : notSaved(fileName, failure);
 }
 
 } // namespace
 
-void DocumentSaving::saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent) {
+QString DocumentSaving::saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid,
+                                 QWidget* parent) {
     if (frame == nullptr) {
-        return;
+        return {};
     }
     // The frame may be closed while the user chooses the file.
-    const QPointer<SoQtGeneralViewerFrame> saved(frame);
+    const QPointer<SoQtGeneralViewerFrame> chosen(frame);
     const QString fileName = Messages::askForFileToSave(
         QCoreApplication::translate("QMainWindow", "Text (*.txt)"), "txt", parent);
-    if (!fileName.isEmpty() && saved) {
-        writeText(fileName, *saved, isHyperboloid);
-    }
+    return fileName.isEmpty() || !chosen ? QString() : writeText(fileName, *chosen, isHyperboloid);
 }
 
-void DocumentSaving::writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame,
-                               bool isHyperboloid) {
-    // On purpose a file that cannot be opened is not reported: the stream has failed and stays so.
-    std::ofstream file(QFile::encodeName(fileName).constData());
-    if (isHyperboloid) {
-        DataExport::writeHyperboloid(file, *qobject_cast<const HyperboloidFrame*>(&frame));
-    } else {
-        DataExport::writeHelix(file, qobject_cast<const HelixFrame*>(&frame)->getHelix());
+QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame,
+                                  bool isHyperboloid) {
+    WholeFile file(fileName);
+    if (!file.isOpen()) {
+        // On purpose a file that cannot be opened is not reported.
+        return file.isWritableInPlace() ? notSaved(fileName, file.errorString()) : QString();
     }
+    writeNumbers(file, frame, isHyperboloid);
+    return file.commit() ? saved(fileName) : notSaved(fileName, file.errorString());
 }
 
-void DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent) {
+QString DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent) {
     if (frame == nullptr || frame->getViewer() == nullptr) {
-        Messages::warn(QCoreApplication::translate("MainWindow", "Select a Viewer"), parent);
-        return;
+        Messages::warn(translated("Select a Viewer"), parent);
+        return {};
     }
-    const QPointer<SoQtGeneralViewerFrame> saved(frame);
+    const QPointer<SoQtGeneralViewerFrame> chosen(frame);
     const QString fileName = Messages::askForFileToSave(
         QCoreApplication::translate("QMainWindow", "PostScript (*.eps)"), "eps", parent);
-    if (fileName.isEmpty() || !saved) {
-        return;
+    if (fileName.isEmpty() || !chosen) {
+        return {};
     }
-    std::FILE* file = std::fopen(QFile::encodeName(fileName).constData(), "w");
-    if (file == nullptr) {
-        Messages::warn(QCoreApplication::translate("MainWindow", "The file %1 cannot be written.")
-                           .arg(fileName),
-                       parent);
-        return;
+    WholeFile file(fileName);
+    if (!file.isOpen()) {
+        Messages::warn(translated("The file %1 cannot be written.").arg(fileName), parent);
+        return {};
     }
-    writeImage(fileName, file, *saved);
+    return writeImage(fileName, file, *chosen);
 }

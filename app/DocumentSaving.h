@@ -5,7 +5,9 @@
 class QWidget;
 class SoQtGeneralViewerFrame;
 
-/** Documents as files of the user's choice: the numbers behind them as text, their view as image.
+/**
+ * Documents as files of the user's choice: the numbers behind them as text, their view as image. A
+ * file is written whole or not at all, and an older one stays until then, see WholeFile.
  */
 namespace DocumentSaving {
 
@@ -14,20 +16,27 @@ namespace DocumentSaving {
  *
  * @param frame null, or a hyperboloid or helix frame as the flag says; with null nothing is asked.
  *              It may die while the user chooses; then nothing is written
+ * @return what writeText() returns, empty when nothing was tried
  */
-void saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent);
+QString saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent);
 
-/** Writes a frame's numbers to a file, see DataExport; a file that cannot be opened is passed over.
+/**
+ * Writes a frame's numbers to a file, see DataExport. A file that cannot be opened is passed over.
+ *
+ * @return what to tell the user: that the file has been saved, or why it has not, which is on
+ *         standard error too; empty when it was passed over
  */
-void writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame, bool isHyperboloid);
+QString writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame, bool isHyperboloid);
 
 /**
  * Asks for a file and writes a frame's view to it, see ImageExport, for a printer of 300 dots per
- * inch. Tells on standard output whether the whole picture was written; half a file is removed.
+ * inch. Tells on standard output whether the whole picture was written.
  *
  * @param frame the frame, which may die while the user chooses; without one, or with one that has
  *              no viewer, only a warning is shown
+ * @return what to tell the user: that the file has been saved, or why it has not, which is on
+ *         standard error too; empty when nothing was tried or a warning has been shown
  */
-void saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
+QString saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
 
 } // namespace DocumentSaving

@@ -231,15 +231,15 @@ void MainWindow::saveMHyperboloidData() {
 }
 
 void MainWindow::saveObjData(SoQtGeneralViewerFrame* obj, bool hypo) {
-    DocumentSaving::saveText(obj, hypo, this);
+    statusBar()->showMessage(DocumentSaving::saveText(obj, hypo, this));
 }
 
 void MainWindow::saveIn(QString fileName, SoQtGeneralViewerFrame* frame, bool isHyperboloid) {
-    DocumentSaving::writeText(fileName, *frame, isHyperboloid);
+    statusBar()->showMessage(DocumentSaving::writeText(fileName, *frame, isHyperboloid));
 }
 
 void MainWindow::saveCurrentImage() {
-    DocumentSaving::saveImage(activeFrames.current(), this);
+    statusBar()->showMessage(DocumentSaving::saveImage(activeFrames.current(), this));
 }
 
 bool MainWindow::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerViewer* viewer,

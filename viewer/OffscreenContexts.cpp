@@ -1,5 +1,7 @@
 #include "viewer/OffscreenContexts.h"
 
+#include "viewer/CurrentContext.h"
+
 #include <Inventor/C/glue/gl.h>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -9,27 +11,6 @@
 #include <memory>
 
 namespace {
-
-/** The context that is current now, to be made current again. */
-class CurrentContext {
-public:
-    CurrentContext()
-        : context(QOpenGLContext::currentContext())
-        , surface(context == nullptr ? nullptr : context->surface()) {}
-
-    /** Makes it current again; `replacing` is released if there was none. */
-    void reinstate(QOpenGLContext& replacing) const {
-        if (context != nullptr) {
-            context->makeCurrent(surface);
-        } else {
-            replacing.doneCurrent();
-        }
-    }
-
-private:
-    QOpenGLContext* context;
-    QSurface* surface;
-};
 
 /** One off-screen context with the framebuffer that it draws into. */
 class OffscreenContext {

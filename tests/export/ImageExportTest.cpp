@@ -1,8 +1,10 @@
 #include "app/ImageExport.h"
 
+#include "tests/export/PrintedViews.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LargestFileSize.h"
+#include "tests/support/SmallDisk.h"
 #include "viewer/OffscreenContexts.h"
 #include "viewer/SoQtGeneralViewer.h"
 
@@ -18,150 +20,13 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <clocale>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 namespace {
 
 constexpr int printer = 300;
-constexpr int patchSize = 8;
 
-// How far a print may be from the screen, as a share of how far a black picture is. A line is one
-// pixel wide in both, so it is finer in print.
-constexpr double filledTolerance = 0.3;
-constexpr double lineTolerance = 0.65;
-/** Surfaces alone differ at their edges only; light from another side shows. */
-constexpr double lightTolerance = 0.1;
-
-/** Mean difference of two pictures of one size in a channel's steps (0 to 255). */
-double meanDifference(const QImage& one, const QImage& other) {
-    double sum = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = other.pixel(x, y);
-            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) +
-                   std::abs(qBlue(a) - qBlue(b));
-        }
-    }
-    return sum / (3.0 * one.width() * one.height());
-}
-
-/** A picture made coarser: what is left are its shapes and colours, not its single pixels. */
-QImage coarse(const QImage& image) {
-    return image.scaled(image.size() / patchSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-/** The middle of a picture at a height in pixels, without the corner of the axis cross. */
-QImage middle(const QImage& image, int height) {
-    const QImage scaled = image.scaledToHeight(height, Qt::SmoothTransformation);
-    const int width = height * 3 / 4;
-    return scaled.copy((scaled.width() - width) / 2, 0, width, height)
-        .convertToFormat(QImage::Format_RGB32);
-}
-
-/** Turns the camera around the point that it looks at. */
-void lookFrom(SoCamera& camera, const SbRotation& orientation) {
-    const auto ahead = [&] {
-        SbVec3f direction;
-        camera.orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
-        return direction * camera.focalDistance.getValue();
-    };
-    const SbVec3f centre = camera.position.getValue() + ahead();
-    camera.orientation = orientation;
-    camera.position = centre - ahead();
-}
-
-/** As long as it lives, no file can grow larger than so many bytes: like a disk that gets full. */
-class LargestFileSize {
-public:
-    explicit LargestFileSize(rlim_t bytes)
-        : previousHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &previous);
-        const rlimit limited{bytes, previous.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~LargestFileSize() {
-        setrlimit(RLIMIT_FSIZE, &previous);
-        std::signal(SIGXFSZ, previousHandler);
-    }
-    LargestFileSize(const LargestFileSize&) = delete;
-    LargestFileSize& operator=(const LargestFileSize&) = delete;
-
-private:
-    rlimit previous{};
-    void (*previousHandler)(int);
-};
-
-class ImageExportTest : public testing::Test {
-protected:
-    /** Saves a view through the real dialog; returns what the program wrote to standard output. */
-    std::string save(SoQtGeneralViewerFrame& frame, const QString& path) {
-        QFile::remove(path);
-        opened.activate(frame);
-        testing::internal::CaptureStdout();
-        DialogDriver()
-            .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path); })
-            .during([&] { opened.action("saveImageAct").trigger(); });
-        return testing::internal::GetCapturedStdout();
-    }
-
-    QByteArray saved() const {
-        QFile file(path());
-        file.open(QIODevice::ReadOnly);
-        return file.readAll();
-    }
-
-    QString path() const { return folder.filePath("view.eps"); }
-
-    /** The saved file as Ghostscript draws it. */
-    QImage drawn() const {
-        const QString picture = folder.filePath("drawn.png");
-        EXPECT_EQ(
-            QProcess::execute("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop",
-                                     "-sDEVICE=png16m", "-r72", "-sOutputFile=" + picture, path()}),
-            0);
-        return QImage(picture);
-    }
-
-    SbVec2s expectedSize(const SoQtGeneralViewerFrame& frame) const {
-        return ImageExport::printSize(
-            frame.getViewer()->getViewportRegion().getViewportSizePixels(),
-            SoOffscreenRenderer::getScreenPixelsPerInch(), printer);
-    }
-
-    void expectLikeTheScreen(SoQtGeneralViewerFrame& frame, const char* what,
-                             double tolerance = filledTolerance) {
-        RedrawSettled();
-        const QImage screen = ViewDriver(frame).grab();
-        EXPECT_EQ(save(frame, path()), "ok? 1\n");
-        const QImage print = drawn();
-        ASSERT_FALSE(print.isNull());
-        const int height = screen.height();
-        const QImage seen = coarse(middle(screen, height));
-        const QImage printed = coarse(middle(print, height));
-        ASSERT_EQ(seen.size(), printed.size());
-        EXPECT_LT(meanDifference(seen, printed), tolerance * meanDifference(seen, blackLike(seen)))
-            << what;
-    }
-
-    static QImage blackLike(const QImage& image) {
-        QImage black(image.size(), QImage::Format_RGB32);
-        black.fill(Qt::black);
-        return black;
-    }
-
-    static void RedrawSettled() {
-        for (int i = 0; i < 3; ++i) {
-            QCoreApplication::processEvents();
-        }
-    }
-
-    OpenedWindow opened{QSize(1200, 950)};
-    QTemporaryDir folder;
-};
-
+class ImageExportTest : public PrintedViews {};
 } // namespace
 
 TEST(PrintSize, IsWholeInchesAtThePrintersResolution) {
@@ -202,47 +67,6 @@ TEST_F(ImageExportTest, FileHasItsHeaderAndItsSize) {
     EXPECT_TRUE(file.contains("%%EOF"));
 }
 
-TEST_F(ImageExportTest, PictureIsTheOneOnTheScreenInEveryViewAndStyle) {
-    const char* const names[] = {"U", "X", "M", "helix"};
-    const std::vector<SoQtGeneralViewerFrame*> frames = opened.frames();
-    for (std::size_t i = 0; i < frames.size(); ++i) {
-        for (const std::string style : {"Phong", "solid", "lines"}) {
-            expectLikeTheScreen(*frames[i], (names[i] + (" " + style)).c_str(),
-                                style == "lines" ? lineTolerance : filledTolerance);
-            frames[i]->toggleDrawStyle();
-        }
-    }
-}
-
-TEST_F(ImageExportTest, PictureFollowsTheTurnedCameraAndThePerspective) {
-    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
-    const ViewDriver driver(x);
-    // The camera stays where the hand leaves it, instead of spinning on.
-    x.getViewer()->setAnimationEnabled(FALSE);
-    driver.drag(Qt::LeftButton, QPoint(150, 150), QPoint(240, 200));
-    expectLikeTheScreen(x, "turned");
-    driver.key(Qt::Key_P);
-    expectLikeTheScreen(x, "perspective");
-}
-
-TEST_F(ImageExportTest, HeadlightTurnsWithTheCamera) {
-    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
-    for (const float angle : {1.0F, 2.2F, 4.0F}) {
-        lookFrom(*x.getViewer()->getCamera(), SbRotation(SbVec3f(0.3F, 1, 0.1F), angle));
-        x.getViewer()->render();
-        expectLikeTheScreen(x, "turned", lightTolerance);
-    }
-}
-
-TEST_F(ImageExportTest, PictureShowsTransparencyAndBackground) {
-    HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
-    m.setTransparency(60, true);
-    expectLikeTheScreen(m, "transparent");
-    m.getViewer()->setBackgroundColor(SbColor(0.2F, 0.3F, 0.4F));
-    m.getViewer()->setHeadlight(FALSE);
-    expectLikeTheScreen(m, "background, no headlight");
-}
-
 TEST_F(ImageExportTest, NumbersHaveADecimalPointInEveryLocale) {
     save(opened.hyperboloid(0), path());
     const QByteArray expected = saved();
@@ -259,7 +83,7 @@ TEST_F(ImageExportTest, NumbersHaveADecimalPointInEveryLocale) {
 
 TEST_F(ImageExportTest, ViewsAndCurrentContextAreLeftAlone) {
     HyperboloidFrame& u = opened.hyperboloid(0);
-    RedrawSettled();
+    settleRedraws();
     const QImage before = ViewDriver(u).grab();
     for (int i = 0; i < 5; ++i) {
         QOpenGLContext* current = QOpenGLContext::currentContext();
@@ -273,7 +97,7 @@ TEST_F(ImageExportTest, ViewsAndCurrentContextAreLeftAlone) {
         EXPECT_EQ(current->surface(), surface);
     }
     u.getViewer()->render();
-    RedrawSettled();
+    settleRedraws();
     EXPECT_EQ(ViewDriver(u).grab(), before);
     EXPECT_TRUE(opened.waitUntilAllViewsAreDrawn());
 }

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QFile>
+#include <QSaveFile>
+#include <QString>
+
+/**
+ * A file that comes into being whole or not at all: what is written goes beside it first, and an
+ * older file stays untouched until commit(). Symbolic links are followed and stay; what is no file,
+ * such as a device or a pipe, is written to directly. A pipe whose reader has gone fails to be
+ * written and does not end the program as long as this object lives.
+ */
+class WholeFile {
+public:
+    /** Opens a file for writing. */
+    explicit WholeFile(const QString& fileName);
+    ~WholeFile();
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
+
+    bool isOpen() const { return direct.isOpen() || replacement.isOpen(); }
+
+    /**
+     * Whether a file that could not be opened could have been, had it been written in place: the
+     * folder refuses to take a second file, say.
+     */
+    bool isWritableInPlace() const;
+
+    /** Writes more of the content; after a failure nothing more is written, and commit() fails. */
+    void write(const char* text, std::size_t size);
+
+    /** Where the system writes to, for a stream of its own. Its failures are unknown here. */
+    int handle() const;
+
+    /** Gives the file its name; false when it could not be written wholly, and nothing changed. */
+    bool commit();
+
+    /** In words, why the file could not be opened or written; empty as long as all is well. */
+    QString errorString() const { return failure; }
+
+private:
+    void (*previousHandler)(int);
+    /** What is no file, open in place of the replacement. */
+    QFile direct;
+    QSaveFile replacement;
+    QString failure;
+};

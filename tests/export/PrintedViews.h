@@ -1,0 +1,36 @@
+#pragma once
+
+#include "tests/support/OpenedWindow.h"
+
+#include <Inventor/SbVec2s.h>
+#include <QByteArray>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <string>
+
+/** The real main window with its views, and a folder for pictures of them. */
+class PrintedViews : public testing::Test {
+protected:
+    /** The printer's resolution in dots per inch. */
+    static constexpr int printer = 300;
+
+    /** Saves a view through the real dialog; returns what the program wrote to standard output. */
+    std::string save(SoQtGeneralViewerFrame& frame, const QString& path);
+
+    QString path() const { return folder.filePath("view.eps"); }
+    QByteArray saved() const;
+
+    /** The saved file as Ghostscript draws it for the printer. */
+    QImage drawn() const;
+
+    SbVec2s expectedSize(const SoQtGeneralViewerFrame& frame) const;
+
+    /** Gives a view a size on the screen of whole inches, and one pixel at most. */
+    void resizeToWholeInches(SoQtGeneralViewerFrame& frame, int width, int height) const;
+
+    static void settleRedraws();
+
+    OpenedWindow opened{QSize(1200, 950)};
+    QTemporaryDir folder;
+};

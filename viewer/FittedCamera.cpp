@@ -1,0 +1,46 @@
+#include "viewer/FittedCamera.h"
+
+#include <Inventor/SbXfBox3f.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <algorithm>
+
+namespace {
+
+/** Room around the scene, as a share of a plane's distance. */
+constexpr float slack = 0.001F;
+/** Under a perspective, how many times nearer than the far plane the near one may be: 2^9. */
+constexpr float largestDepthRatio = 512;
+
+/** The smallest box along the camera's axes around a scene. */
+SbBox3f boxSeenBy(const SoCamera& camera, SoNode& scene, const SbViewportRegion& region) {
+    SoGetBoundingBoxAction action(region);
+    action.apply(&scene);
+    SbXfBox3f box = action.getXfBoundingBox();
+    SbMatrix toCamera;
+    toCamera.setTranslate(-camera.position.getValue());
+    box.transform(toCamera);
+    toCamera.setRotate(camera.orientation.getValue().inverse());
+    box.transform(toCamera);
+    return box.project();
+}
+
+} // namespace
+
+NodePointer<SoCamera> FittedCamera::copyOf(const SoCamera& camera, SoNode& scene,
+                                           const SbViewportRegion& region) {
+    NodePointer<SoCamera> fitted(static_cast<SoCamera*>(camera.copy()));
+    const SbBox3f box = boxSeenBy(camera, scene, region);
+    // A camera looks along its negative third axis.
+    float nearest = -box.getMax()[2];
+    const float farthest = -box.getMin()[2];
+    if (box.isEmpty() || farthest <= 0) {
+        return fitted;
+    }
+    if (camera.isOfType(SoPerspectiveCamera::getClassTypeId())) {
+        nearest = std::max(nearest, farthest / largestDepthRatio);
+    }
+    fitted->nearDistance = nearest * (1 - slack);
+    fitted->farDistance = farthest * (1 + slack);
+    return fitted;
+}
