@@ -1,0 +1,13 @@
+#pragma once
+
+#include "hyperboloid/SurfaceCondition.h"
+
+#include <QString>
+
+/** What a user is told about a surface that is not the quadric of its parameters. */
+namespace SurfaceConditionText {
+
+/** What is drawn instead, and why; empty when the surface is the quadric. */
+QString of(const SurfaceCondition& condition);
+
+} // namespace SurfaceConditionText
