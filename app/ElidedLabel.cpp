@@ -8,10 +8,14 @@ ElidedLabel::ElidedLabel(int lettersAlwaysShown, QWidget* parent)
     : QLabel(parent)
     , leastLetters(lettersAlwaysShown) {
     setTextFormat(Qt::PlainText);
+    // Two texts side by side are not to be read as one.
+    setContentsMargins(0, 0, fontMetrics().height(), 0);
 }
 
 void ElidedLabel::showText(const QString& text, const QStringList& details) {
     setText(text);
+    // More than the text needs would be taken from what stands beside it.
+    setMaximumWidth(sizeHint().width());
     // As rich text a tool tip breaks its lines; as plain text it would be as wide as it is long.
     setToolTip(Qt::convertFromPlainText(details.isEmpty() ? text : details.join('\n'),
                                         Qt::WhiteSpaceNormal));

@@ -18,11 +18,11 @@ constexpr int conditionLetters = 16;
 constexpr int refusalLetters = 30;
 constexpr int steeringLetters = 6;
 
-/** Names a label and adds it to the bar. */
+/** Names a label and adds it to the bar. With a stretch it gets what the others leave over. */
 template <typename Label>
-Label* add(Label* label, const char* name, QStatusBar& bar) {
+Label* add(Label* label, const char* name, QStatusBar& bar, int stretch = 0) {
     label->setObjectName(name);
-    bar.addPermanentWidget(label);
+    bar.addPermanentWidget(label, stretch);
     return label;
 }
 
@@ -54,7 +54,7 @@ QString helixPointText(const SoQtGeneralViewerFrame* active) {
 StatusLabels::StatusLabels(QStatusBar& bar)
     : surfaceCondition(add(new ElidedLabel(conditionLetters), "surfaceConditionLabel", bar))
     , refusedParameters(add(new ElidedLabel(refusalLetters), "refusedParametersLabel", bar))
-    , steering(add(new ElidedLabel(steeringLetters), "steeringLabel", bar))
+    , steering(add(new ElidedLabel(steeringLetters), "steeringLabel", bar, 1))
     , steeredHelix(add(new QLabel, "steeredHelixLabel", bar))
     , helixPoint(add(new QLabel, "helixPointLabel", bar))
     , viewerTitle(add(new QLabel, "viewerTitleLabel", bar)) {
@@ -71,10 +71,13 @@ void StatusLabels::show(const SoQtGeneralViewerFrame* active) {
 }
 
 void StatusLabels::showSurfaces(const std::vector<HyperboloidFrame*>& surfaces) {
-    surfaceCondition->showText(
-        surfaces.empty() ? QString()
-                         : SurfaceConditionText::of(surfaces.front()->surfaceCondition()));
-    steering->showText(SteeringText::of(surfaces), SteeringText::details(surfaces));
+    const SurfaceCondition condition =
+        surfaces.empty() ? SurfaceCondition() : surfaces.front()->surfaceCondition();
+    const QString conditionText = SurfaceConditionText::of(condition);
+    surfaceCondition->showText(conditionText,
+                               {conditionText, SurfaceConditionText::explanation(condition)});
+    const QStringList sentences = SteeringText::of(surfaces);
+    steering->showText(sentences.join(" · "), sentences);
     makeRoomForRefusal();
 }
 

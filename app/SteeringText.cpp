@@ -8,49 +8,55 @@
 
 namespace {
 
+/** Surfaces that steer the same helix, or none. */
+struct Group {
+    const HelixFrame* helix;
+    QStringList surfaces;
+};
+
 QString translated(const char* text) {
     return QCoreApplication::translate("MainWindow", text);
 }
 
-QString letterOf(int space) {
-    return QStringList{"U", "X", "M"}.at(space);
+/** For example "Viewer 2 (U)". */
+QString nameOf(const HyperboloidFrame& surface) {
+    const QString letter = QStringList{"U", "X", "M"}.at(surface.WichSpace());
+    return translated("%1 (%2)").arg(surface.windowTitle(), letter);
 }
 
-/** For example "Viewer 2 (U) steers Viewer 5". */
-QString sentence(const HyperboloidFrame& surface) {
-    const HelixFrame* helix = surface.GetPreviousHelix();
-    return translated("%1 (%2) steers %3")
-        .arg(surface.windowTitle(), letterOf(surface.WichSpace()),
-             helix == nullptr ? translated("no helix") : helix->windowTitle());
+/** In the order of the surfaces. */
+std::vector<Group> groupsOf(const std::vector<HyperboloidFrame*>& surfaces) {
+    std::vector<Group> groups;
+    for (const HyperboloidFrame* surface : surfaces) {
+        const HelixFrame* helix = surface->GetPreviousHelix();
+        auto group = std::find_if(groups.begin(), groups.end(),
+                                  [&](const Group& one) { return one.helix == helix; });
+        if (group == groups.end()) {
+            group = groups.insert(group, {helix, {}});
+        }
+        group->surfaces << nameOf(*surface);
+    }
+    return groups;
 }
 
-bool steersNone(const HyperboloidFrame* surface) {
-    return surface->GetPreviousHelix() == nullptr;
-}
-
-QString advice() {
-    return translated(": activate a helix, then this view");
+QString sentence(const Group& group) {
+    const bool isOne = group.surfaces.size() == 1;
+    const QString names = group.surfaces.join(", ");
+    if (group.helix != nullptr) {
+        return translated(isOne ? "%1 steers %2" : "%1 steer %2")
+            .arg(names, group.helix->windowTitle());
+    }
+    return translated(isOne ? "%1 steers no helix: activate a helix, then this view"
+                            : "%1 steer no helix: activate a helix, then one of these views")
+        .arg(names);
 }
 
 } // namespace
 
-QString SteeringText::of(const std::vector<HyperboloidFrame*>& surfaces) {
+QStringList SteeringText::of(const std::vector<HyperboloidFrame*>& surfaces) {
     QStringList sentences;
-    for (const HyperboloidFrame* surface : surfaces) {
-        sentences << sentence(*surface);
+    for (const Group& group : groupsOf(surfaces)) {
+        sentences << sentence(group);
     }
-    // Once: the advice is the same for all that steer none.
-    const auto last = std::find_if(surfaces.rbegin(), surfaces.rend(), steersNone);
-    if (last != surfaces.rend()) {
-        sentences[static_cast<int>(surfaces.rend() - last) - 1] += advice();
-    }
-    return sentences.join(" · ");
-}
-
-QStringList SteeringText::details(const std::vector<HyperboloidFrame*>& surfaces) {
-    QStringList lines;
-    for (const HyperboloidFrame* surface : surfaces) {
-        lines << sentence(*surface) + (steersNone(surface) ? advice() : QString());
-    }
-    return lines;
+    return sentences;
 }

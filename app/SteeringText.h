@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <QStringList>
 #include <vector>
 
@@ -9,10 +8,7 @@ class HyperboloidFrame;
 /** Which helix each surface steers, in words. */
 namespace SteeringText {
 
-/** All surfaces in one line, and what to do where none is steered. */
-QString of(const std::vector<HyperboloidFrame*>& surfaces);
-
-/** A line for each surface. */
-QStringList details(const std::vector<HyperboloidFrame*>& surfaces);
+/** A sentence for all surfaces that steer the same helix; where none is steered, how to tie one. */
+QStringList of(const std::vector<HyperboloidFrame*>& surfaces);
 
 } // namespace SteeringText

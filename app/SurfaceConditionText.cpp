@@ -15,15 +15,13 @@ QString translated(const char* text) {
 QString drawnText(Drawn drawn) {
     switch (drawn) {
     case Drawn::unitHyperboloid:
-        return translated("Unit hyperboloid drawn, not the quadric: %1");
+        return translated("Unit hyperboloid, not the quadric: %1");
     case Drawn::rounded:
-        return translated("Shape left by rounding, not the quadric; its size and colours mean "
-                          "nothing: %1");
+        return translated("Shaped by rounding, not the quadric: %1");
     case Drawn::point:
-        return translated("Single point drawn, not the quadric; dark, as its energies are "
-                          "undefined: %1");
+        return translated("Dark point, not the quadric: %1");
     case Drawn::nothing:
-        return translated("No surface can be drawn: %1");
+        return translated("No surface: %1");
     default:
         return {};
     }
@@ -42,10 +40,9 @@ QString causeText(Cause cause) {
     case Cause::zeroSigma:
         return translated("K1·K23·Û1 + K2·K13·Û2 + 2·K13·K23·Û3 = 0");
     case Cause::uHatOnThirdAxis:
-        return translated("the quadric is a cone (Û1 = Û2 = 0)");
+        return translated("Û1 = Û2 = 0 (a cone)");
     default:
-        return translated("the quadric is all but a cone (K1·K23·Û1 and K2·K13·Û2 are the same up "
-                          "to rounding)");
+        return translated("K1·K23·Û1 ≈ K2·K13·Û2 (a cone)");
     }
 }
 
@@ -60,4 +57,21 @@ QString SurfaceConditionText::of(const SurfaceCondition& condition) {
         causes << causeText(cause);
     }
     return drawnText(condition.drawn).arg(causes.join(translated(" and ")));
+}
+
+QString SurfaceConditionText::explanation(const SurfaceCondition& condition) {
+    switch (condition.drawn) {
+    case Drawn::unitHyperboloid:
+        return translated("The hyperboloid with semi-axes 1 is drawn in the quadric's place.");
+    case Drawn::rounded:
+        return translated("The quadric is so nearly a cone that rounding decides what is drawn: "
+                          "its size and its colours mean nothing.");
+    case Drawn::point:
+        return translated("The quadric is so nearly a cone that all its vertices are rounded to "
+                          "its centre: their energies are undefined, their colour is dark.");
+    case Drawn::nothing:
+        return translated("The vertices have no finite coordinates.");
+    default:
+        return {};
+    }
 }
