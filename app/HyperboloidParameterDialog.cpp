@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <algorithm>
 #include <type_traits>
 
@@ -90,11 +91,13 @@ HyperboloidParameterDialog::HyperboloidParameterDialog(const HyperboloidParamete
 }
 
 std::optional<HyperboloidParameters> HyperboloidParameterDialog::ask(const HyperboloidFrame* frame,
-                                                                     QWidget* parent) {
+                                                                     QWidget* parent,
+                                                                     const Refusal& refuse) {
     const QPointer<const HyperboloidFrame> asked(frame);
     // Refused values are not kept: each new dialog starts from the model.
     while (asked) {
-        HyperboloidParameterDialog dialog(HyperboloidParameters::of(*asked), parent);
+        const HyperboloidParameters kept = HyperboloidParameters::of(*asked);
+        HyperboloidParameterDialog dialog(kept, parent);
         if (dialog.exec() != QDialog::Accepted) {
             return std::nullopt;
         }
@@ -103,6 +106,9 @@ std::optional<HyperboloidParameters> HyperboloidParameterDialog::ask(const Hyper
         if (broken == HyperboloidCondition::none) {
             return asked ? std::optional(entered) : std::nullopt;
         }
+        if (refuse) {
+            refuse(entered, kept);
+        }
         Messages::brokenCondition(pictureOf(broken), parent);
         if (!parent->isVisible()) {
             // The program is ending: the window was closed while the message was up.
@@ -110,6 +116,18 @@ std::optional<HyperboloidParameters> HyperboloidParameterDialog::ask(const Hyper
         }
     }
     return std::nullopt;
+}
+
+QString HyperboloidParameterDialog::nameOf(HyperboloidParameter::Member member) {
+    for (const Column& column : columns) {
+        for (const LabelledField& field : column) {
+            if (field.member == member) {
+                const QString label = QCoreApplication::translate("QMainWindow", field.text);
+                return QTextDocumentFragment::fromHtml(label).toPlainText().remove(':').trimmed();
+            }
+        }
+    }
+    return {};
 }
 
 QAbstractSpinBox* HyperboloidParameterDialog::fieldOf(HyperboloidParameter::Member member) const {

@@ -7,6 +7,7 @@
 #include "app/HyperboloidParameterDialog.h"
 #include "app/ImageExport.h"
 #include "app/Messages.h"
+#include "app/RefusedParametersText.h"
 #include "app/WindowPlace.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
@@ -81,18 +82,23 @@ void MainWindow::newViewer() {
 
 void MainWindow::SayHypoImDead(SbName name) {
     documents.helixDied(name);
-    viewerTitleChanged();
+    updateStatusBar();
 }
 
 void MainWindow::viewerTitleChanged() {
+    updateStatusBar();
+}
+
+void MainWindow::updateStatusBar() {
     statusLabels.show(documents.active());
+    statusLabels.showSurfaces(documents.hyperboloids().open());
 }
 
 void MainWindow::updateMenus() {
     SoQtGeneralViewerFrame* active = documents.active();
     commands.updateEnabled(active != nullptr, documents.count());
     activeFrames.activate(active);
-    viewerTitleChanged();
+    updateStatusBar();
 }
 
 void MainWindow::updateWindowMenu() {
@@ -158,7 +164,7 @@ void MainWindow::helix_change_precision_tube(int r) {
 
 void MainWindow::refresh_helixs(int oldVertexCount) {
     documents.hyperboloids().keepInPlace(documents.helices(), oldVertexCount);
-    viewerTitleChanged();
+    updateStatusBar();
 }
 
 int MainWindow::verify_param(double K1, double K2, double K3, double K13, double K23) {
@@ -171,7 +177,12 @@ int MainWindow::verify_param(double K1, double K2, double K3, double K13, double
 
 void MainWindow::changeHyperboloidParameters() {
     const HyperboloidFrame* u = documents.hyperboloids().of(Hyperboloid::USPACE);
-    if (const auto accepted = HyperboloidParameterDialog::ask(u, this)) {
+    const auto accepted = HyperboloidParameterDialog::ask(
+        u, this, [this](const HyperboloidParameters& refused, const HyperboloidParameters& kept) {
+            statusLabels.showRefused(RefusedParametersText::of(refused, kept));
+        });
+    statusLabels.showRefused({});
+    if (accepted) {
         const auto oldVertexCount = static_cast<int>(u->getNumVertices());
         documents.hyperboloids().setParameters(*accepted);
         refresh_helixs(oldVertexCount);
@@ -186,6 +197,7 @@ void MainWindow::refresh_hyperboloids(double K1, double K2, double K3, double K1
     documents.hyperboloids().setParameters({K1, K2, K3, K13, K23, U1, U2, U3, horizontalPrecision,
                                             verticalPrecision, pointRadius, u3constRange,
                                             u3axisRange, u3constRadius, u3axisRadius});
+    updateStatusBar();
 }
 
 void MainWindow::changeHyperboloidTransparency() {

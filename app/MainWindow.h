@@ -115,6 +115,7 @@ private:
     void createActions();
     void createMenus();
     void createStatusBar();
+    void updateStatusBar();
     void readSettings();
     void writeSettings();
     QMdiSubWindow* findMdiChild(const QString& title);

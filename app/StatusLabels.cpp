@@ -1,19 +1,38 @@
 #include "app/StatusLabels.h"
 
+#include "app/ElidedLabel.h"
+#include "app/SteeringText.h"
+#include "app/SurfaceConditionText.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 
 #include <QCoreApplication>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QStatusBar>
 
 namespace {
 
-QLabel* addLabel(QStatusBar& bar, const char* name) {
-    auto* label = new QLabel;
+// What can always be read: "Unit hyperboloid", the first refused numbers, "Viewer".
+constexpr int conditionLetters = 16;
+constexpr int refusalLetters = 30;
+constexpr int steeringLetters = 6;
+
+/** Names a label and adds it to the bar. With a stretch it gets what the others leave over. */
+template <typename Label>
+Label* add(Label* label, const char* name, QStatusBar& bar, int stretch = 0) {
     label->setObjectName(name);
-    bar.addPermanentWidget(label);
+    bar.addPermanentWidget(label, stretch);
     return label;
+}
+
+/** Keeps the labels off the message at the left: they would take all the room, and hide it. */
+void leaveRoomForMessage(QStatusBar& bar, const QString& message) {
+    constexpr int lettersAtMost = 20;
+    const QFontMetrics metrics = bar.fontMetrics();
+    const int room =
+        qMin(metrics.horizontalAdvance(message + "MM"), lettersAtMost * metrics.averageCharWidth());
+    bar.setContentsMargins(message.isEmpty() ? 0 : room, 0, 0, 0);
 }
 
 QString steeredHelixText(const SoQtGeneralViewerFrame* active) {
@@ -21,16 +40,52 @@ QString steeredHelixText(const SoQtGeneralViewerFrame* active) {
     const HelixFrame* steered = hyperboloid == nullptr ? nullptr : hyperboloid->GetPreviousHelix();
     return steered == nullptr ? QString()
                               : QCoreApplication::translate("MainWindow", "%1: %2")
-                                    .arg(steered->windowTitle(), steered->viewerTitle());
+                                    .arg(steered->windowTitle(), steered->pointText());
+}
+
+QString helixPointText(const SoQtGeneralViewerFrame* active) {
+    const auto* helix = qobject_cast<const HelixFrame*>(active);
+    return helix == nullptr || helix->pointText() == helix->viewerTitle() ? QString()
+                                                                          : helix->pointText();
 }
 
 } // namespace
 
 StatusLabels::StatusLabels(QStatusBar& bar)
-    : steeredHelix(addLabel(bar, "steeredHelixLabel"))
-    , viewerTitle(addLabel(bar, "viewerTitleLabel")) {}
+    : surfaceCondition(add(new ElidedLabel(conditionLetters), "surfaceConditionLabel", bar))
+    , refusedParameters(add(new ElidedLabel(refusalLetters), "refusedParametersLabel", bar))
+    , steering(add(new ElidedLabel(steeringLetters), "steeringLabel", bar, 1))
+    , steeredHelix(add(new QLabel, "steeredHelixLabel", bar))
+    , helixPoint(add(new QLabel, "helixPointLabel", bar))
+    , viewerTitle(add(new QLabel, "viewerTitleLabel", bar)) {
+    QObject::connect(&bar, &QStatusBar::messageChanged, &bar,
+                     [&bar](const QString& message) { leaveRoomForMessage(bar, message); });
+    showSurfaces({});
+    showRefused({});
+}
 
 void StatusLabels::show(const SoQtGeneralViewerFrame* active) {
     steeredHelix->setText(steeredHelixText(active));
+    helixPoint->setText(helixPointText(active));
     viewerTitle->setText(active == nullptr ? QString() : active->viewerTitle());
+}
+
+void StatusLabels::showSurfaces(const std::vector<HyperboloidFrame*>& surfaces) {
+    const SurfaceCondition condition =
+        surfaces.empty() ? SurfaceCondition() : surfaces.front()->surfaceCondition();
+    const QString conditionText = SurfaceConditionText::of(condition);
+    surfaceCondition->showText(conditionText,
+                               {conditionText, SurfaceConditionText::explanation(condition)});
+    const QStringList sentences = SteeringText::of(surfaces);
+    steering->showText(sentences.join(" · "), sentences);
+    makeRoomForRefusal();
+}
+
+void StatusLabels::showRefused(const QString& text) {
+    refusedParameters->showText(text);
+    makeRoomForRefusal();
+}
+
+void StatusLabels::makeRoomForRefusal() {
+    steering->setVisible(!steering->text().isEmpty() && refusedParameters->text().isEmpty());
 }

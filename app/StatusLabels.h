@@ -1,12 +1,18 @@
 #pragma once
 
+#include <QString>
+#include <vector>
+
+class ElidedLabel;
+class HyperboloidFrame;
 class QLabel;
 class QStatusBar;
 class SoQtGeneralViewerFrame;
 
 /**
- * Two permanent labels of the status bar: "steeredHelixLabel" and, at its right,
- * "viewerTitleLabel".
+ * The permanent labels of the status bar, from the left: "surfaceConditionLabel",
+ * "refusedParametersLabel" and "steeringLabel", which give way where there is too little room, then
+ * "steeredHelixLabel", "helixPointLabel" and "viewerTitleLabel".
  */
 class StatusLabels {
 public:
@@ -14,14 +20,37 @@ public:
     explicit StatusLabels(QStatusBar& bar);
 
     /**
-     * Shows the viewer title of the active frame and, beside a hyperboloid, the window title and
-     * the viewer title of the helix that it steers.
+     * Shows the viewer title of the active frame; beside a hyperboloid the window title and the U
+     * coordinates of the helix that it steers, beside a helix its U coordinates while its viewer
+     * title says something else.
      *
      * @param active the active frame, or null
      */
     void show(const SoQtGeneralViewerFrame* active);
 
+    /**
+     * Shows which helix each surface steers, and what is drawn where it is not the quadric of the
+     * parameters.
+     *
+     * @param surfaces the hyperboloid frames, which share their parameters
+     */
+    void showSurfaces(const std::vector<HyperboloidFrame*>& surfaces);
+
+    /**
+     * Shows why values were refused, until the next call; meanwhile who steers what is not shown:
+     * no view can be clicked while they are asked for again.
+     *
+     * @param text empty when there is nothing to be said
+     */
+    void showRefused(const QString& text);
+
 private:
+    void makeRoomForRefusal();
+
+    ElidedLabel* surfaceCondition;
+    ElidedLabel* refusedParameters;
+    ElidedLabel* steering;
     QLabel* steeredHelix;
+    QLabel* helixPoint;
     QLabel* viewerTitle;
 };

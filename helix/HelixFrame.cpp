@@ -6,6 +6,16 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <sstream>
 
+namespace {
+
+std::string textOf(const Triple& u) {
+    std::ostringstream text;
+    text << "U = (" << u.x << "; " << u.y << "; " << u.z << ")";
+    return text.str();
+}
+
+} // namespace
+
 int HelixFrame::helix_nb = 0;
 
 HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, float blue, int index,
@@ -14,7 +24,8 @@ HelixFrame::HelixFrame(float u1, float u2, float u3, float red, float green, flo
 
 HelixFrame::HelixFrame(const SurfaceVertex& vertex, bool closable, FrameOwner* owner)
     : SoQtGeneralViewerFrame(closable, owner)
-    , helix(vertex.u.x, vertex.u.y, vertex.u.z, vertex.color.x, vertex.color.y, vertex.color.z) {
+    , helix(vertex.u.x, vertex.u.y, vertex.u.z, vertex.color.x, vertex.color.y, vertex.color.z)
+    , point(vertex.u) {
     initialize_helix(vertex.index);
 }
 
@@ -57,15 +68,18 @@ void HelixFrame::refresh(float u1, float u2, float u3, int index, float red, flo
 void HelixFrame::refresh(const SurfaceVertex& vertex) {
     const auto& [index, u, color] = vertex;
     vertexIndex = index;
+    point = u;
     helix.refresh_param(u.x, u.y, u.z, color.x, color.y, color.z);
     showU(u.x, u.y, u.z);
     reDraw(true, true, true);
 }
 
+QString HelixFrame::pointText() const {
+    return QString::fromStdString(textOf(widened(point)));
+}
+
 void HelixFrame::showU(double u1, double u2, double u3) {
-    std::ostringstream text;
-    text << "U = (" << u1 << "; " << u2 << "; " << u3 << ")";
-    setTitle(text.str().c_str());
+    setTitle(textOf({u1, u2, u3}).c_str());
 }
 
 void HelixFrame::set_ribbon_range(double width, bool redraw) {

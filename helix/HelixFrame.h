@@ -58,6 +58,9 @@ public:
     void refresh(float u1, float u2, float u3, int index, float red, float green, float blue);
     void refresh(const SurfaceVertex& vertex);
 
+    /** The U coordinates of the helix's vertex, in the words of showU(). */
+    QString pointText() const;
+
     /** Shows a point of U space in the viewer's title, for example U = (0.5; 1; 0.25). */
     void showU(double u1, double u2, double u3);
 
@@ -72,5 +75,7 @@ public:
 private:
     Helix helix;
     int vertexIndex = 0;
+    /** The vertex's coordinates in U space. */
+    FloatTriple point;
     std::string name;
 };

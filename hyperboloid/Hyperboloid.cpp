@@ -255,6 +255,10 @@ VertexGrid Hyperboloid::grid() const {
     return {static_cast<int>(numCol), static_cast<int>(numRow)};
 }
 
+SurfaceCondition Hyperboloid::surfaceCondition() const {
+    return SurfaceCondition::of({K, U, semiAxis, swapAxes});
+}
+
 void Hyperboloid::requireTablesOfGrid() const {
     if (tablesGrid != grid()) {
         throw std::logic_error("The tables hold " + toString(tablesGrid) + " vertices, the grid " +

@@ -2,6 +2,7 @@
 
 #include "hyperboloid/HyperboloidParameters.h"
 #include "hyperboloid/HyperboloidSpaces.h"
+#include "hyperboloid/SurfaceCondition.h"
 #include "hyperboloid/VertexGrid.h"
 #include "math/Matrice.h"
 #include "math/Triple.h"
@@ -153,6 +154,8 @@ public:
     [[nodiscard]] unsigned int getNumVertices() const { return numCol * numRow; }
     /** The grid that the parameters ask for: numCol x numRow. */
     [[nodiscard]] VertexGrid grid() const;
+    /** Whether the surface of the parameters as they are now is their quadric. */
+    [[nodiscard]] SurfaceCondition surfaceCondition() const;
 
 protected:
     float a = 0.0F;
