@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 namespace {
 
@@ -22,6 +23,18 @@ void setShortcut(QAction& action, const Command::Shortcut& shortcut) {
     }
 }
 
+/**
+ * Lets Ctrl+Shift+Tab trigger an action that answers Ctrl+Shift+Backtab. A keyboard on X uses up
+ * the Shift in making a Backtab of the Tab, so that no stroke of its keys matches the latter, and
+ * the document area would take it for its own selection of documents.
+ */
+void followShiftedTab(QAction& action, QWidget* window) {
+    if (action.shortcuts().contains(Qt::CTRL + Qt::SHIFT + Qt::Key_Backtab)) {
+        const auto* shortcut = new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, window);
+        QObject::connect(shortcut, &QShortcut::activated, &action, &QAction::trigger);
+    }
+}
+
 QAction* createAction(const Command& command, QMainWindow* window, const QObject* receiver) {
     auto* action = new QAction(window);
     action->setObjectName(command.name);
@@ -34,6 +47,7 @@ QAction* createAction(const Command& command, QMainWindow* window, const QObject
         action->setStatusTip(translated(command.statusTip));
     }
     setShortcut(*action, command.shortcut);
+    followShiftedTab(*action, window);
     if (command.icon != nullptr) {
         action->setIcon(QIcon(command.icon));
     }

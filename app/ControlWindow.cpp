@@ -26,4 +26,12 @@ void ControlWindow::layOut(const std::vector<SliderRow>& rows) {
     columns->addLayout(spinBoxes);
     columns->addLayout(sliders);
     setLayout(columns);
+    // Down the columns, as one reads them: the sliders after all spin boxes.
+    QWidget* last = rows.back().spinBox;
+    for (const SliderRow& row : rows) {
+        setTabOrder(last, row.slider);
+        last = row.slider;
+    }
+    rows.front().spinBox->setFocus();
+    rows.front().spinBox->selectAll();
 }

@@ -17,6 +17,11 @@ class ControlWindow : public QWidget {
 protected:
     explicit ControlWindow(const QObject* receiver);
 
-    /** Lays the rows out as three columns: labels, spin boxes, sliders. */
+    /**
+     * Lays the rows out as three columns: labels, spin boxes, sliders. The tab key walks down the
+     * columns, and the first spin box is ready to be typed into.
+     *
+     * @param rows at least one
+     */
     void layOut(const std::vector<SliderRow>& rows);
 };

@@ -119,6 +119,12 @@ void Documents::activate(QWidget* window) {
     }
 }
 
+void Documents::stackInOrder() {
+    for (QMdiSubWindow* subWindow : area.subWindowList()) {
+        subWindow->raise();
+    }
+}
+
 void Documents::closeHelices() {
     // The hyperboloid frames refuse to be closed alone, so only helices go.
     for (QMdiSubWindow* subWindow : area.subWindowList()) {

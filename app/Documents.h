@@ -70,6 +70,9 @@ public:
      */
     void activate(QWidget* window);
 
+    /** Stacks the documents in the order of their creation, the newest on top. */
+    void stackInOrder();
+
     /** Closes what may be closed alone: the helices. */
     void closeHelices();
 

@@ -1,16 +1,15 @@
 #include "app/HyperboloidParameterDialog.h"
 
 #include "app/Messages.h"
+#include "app/NumberField.h"
 #include "hyperboloid/HyperboloidFrame.h"
 
 #include <QCoreApplication>
-#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextDocumentFragment>
-#include <algorithm>
 #include <type_traits>
 
 namespace {
@@ -60,13 +59,24 @@ QAbstractSpinBox* createSpinBox(const HyperboloidParameter& parameter, double va
 
 QAbstractSpinBox* createField(const HyperboloidParameter& parameter, double value,
                               QWidget* parent) {
-    return parameter.decimals == 0 ? createSpinBox<QSpinBox>(parameter, value, parent)
-                                   : createSpinBox<QDoubleSpinBox>(parameter, value, parent);
+    return parameter.decimals == 0 ? createSpinBox<WholeField>(parameter, value, parent)
+                                   : createSpinBox<DecimalField>(parameter, value, parent);
 }
 
 /** The number in a spin box of either kind. */
 double valueOf(const QAbstractSpinBox& field) {
     return field.property("value").toDouble();
+}
+
+std::size_t indexOf(HyperboloidParameter::Member member) {
+    const auto index = &HyperboloidParameter::of(member) - HyperboloidParameters::all().data();
+    return static_cast<std::size_t>(index);
+}
+
+/** Hands a field over to the user: what is typed next replaces its text. */
+void edit(QAbstractSpinBox& field) {
+    field.setFocus();
+    field.selectAll();
 }
 
 const char* pictureOf(HyperboloidCondition condition) {
@@ -78,16 +88,31 @@ const char* pictureOf(HyperboloidCondition condition) {
 HyperboloidParameterDialog::HyperboloidParameterDialog(const HyperboloidParameters& initial,
                                                        QWidget* parent)
     : QDialog(parent) {
-    const auto& all = HyperboloidParameters::all();
-    std::transform(all.begin(), all.end(), fields.begin(), [&](const HyperboloidParameter& one) {
-        return createField(one, one.valueIn(initial), this);
-    });
+    // The tab key follows the order of creation: down the columns, then along the buttons.
+    for (const Column& column : columns) {
+        for (const LabelledField& labelled : column) {
+            const HyperboloidParameter& parameter = HyperboloidParameter::of(labelled.member);
+            fieldOf(labelled.member) = createField(parameter, parameter.valueIn(initial), this);
+        }
+    }
     auto* layout = new QVBoxLayout;
     layout->addLayout(createColumns());
     layout->addLayout(createButtons());
     // The dialog keeps the size that its contents need.
     layout->setSizeConstraint(QLayout::SetFixedSize);
     setLayout(layout);
+    edit(*fieldOf(columns.front().front().member));
+}
+
+void HyperboloidParameterDialog::accept() {
+    for (QAbstractSpinBox* field : fields) {
+        if (!field->hasAcceptableInput()) {
+            field->interpretText();
+            edit(*field);
+            return;
+        }
+    }
+    QDialog::accept();
 }
 
 std::optional<HyperboloidParameters> HyperboloidParameterDialog::ask(const HyperboloidFrame* frame,
@@ -130,10 +155,12 @@ QString HyperboloidParameterDialog::nameOf(HyperboloidParameter::Member member) 
     return {};
 }
 
+QAbstractSpinBox*& HyperboloidParameterDialog::fieldOf(HyperboloidParameter::Member member) {
+    return fields.at(indexOf(member));
+}
+
 QAbstractSpinBox* HyperboloidParameterDialog::fieldOf(HyperboloidParameter::Member member) const {
-    const auto& all = HyperboloidParameters::all();
-    const auto index = &HyperboloidParameter::of(member) - all.data();
-    return fields.at(static_cast<std::size_t>(index));
+    return fields.at(indexOf(member));
 }
 
 QLayout* HyperboloidParameterDialog::createColumns() {
@@ -152,9 +179,11 @@ QLayout* HyperboloidParameterDialog::createColumns() {
 }
 
 QLayout* HyperboloidParameterDialog::createButtons() {
+    auto* cancel = new QPushButton("Cancel", this);
     auto* ok = new QPushButton("Ok", this);
     ok->setDefault(true);
-    auto* cancel = new QPushButton("Cancel", this);
+    // Clicked, it must not take the focus: a refused text would be gone before it is noticed.
+    ok->setFocusPolicy(Qt::TabFocus);
     connect(ok, SIGNAL(clicked()), this, SLOT(accept()));
     connect(cancel, SIGNAL(clicked()), this, SLOT(reject()));
     auto* row = new QHBoxLayout;

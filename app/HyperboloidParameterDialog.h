@@ -41,11 +41,16 @@ public:
     /** The values that the fields show now. */
     HyperboloidParameters parameters() const;
 
+public slots:
+    /** Refuses as long as a text is no number of its field: the user goes on in that field. */
+    void accept() override;
+
 private:
+    QAbstractSpinBox*& fieldOf(HyperboloidParameter::Member member);
     QAbstractSpinBox* fieldOf(HyperboloidParameter::Member member) const;
     QLayout* createColumns();
     QLayout* createButtons();
 
-    /** In the order of HyperboloidParameters::all(), which is also that of the tab key. */
-    std::array<QAbstractSpinBox*, HyperboloidParameters::count> fields;
+    /** In the order of HyperboloidParameters::all(). */
+    std::array<QAbstractSpinBox*, HyperboloidParameters::count> fields{};
 };

@@ -12,6 +12,7 @@
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
@@ -42,6 +43,9 @@ MainWindow::~MainWindow() {
 
 void MainWindow::createActions() {
     commands = Commands::create(this, mdiArea);
+    // The area cascades in the order of creation, and leaves on top what was there before.
+    connect(findChild<QAction*>("cascadeAct"), &QAction::triggered, this,
+            [this] { documents.stackInOrder(); });
 }
 
 void MainWindow::createMenus() {

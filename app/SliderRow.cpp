@@ -1,12 +1,15 @@
 #include "app/SliderRow.h"
 
+#include "app/FocusedWheel.h"
+#include "app/NumberField.h"
+
 #include <QLabel>
 #include <QSlider>
-#include <QSpinBox>
 
 SliderRow SliderRow::create(QWidget* window, const QString& text, int minimum, int maximum) {
-    const SliderRow row{new QLabel(text, window), new QSpinBox(window),
-                        new QSlider(Qt::Horizontal, window)};
+    const SliderRow row{new QLabel(text, window), new WholeField(window),
+                        new FocusedWheel<QSlider>(window)};
+    row.slider->setOrientation(Qt::Horizontal);
     row.spinBox->setRange(minimum, maximum);
     row.slider->setRange(minimum, maximum);
     return row;

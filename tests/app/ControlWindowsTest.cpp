@@ -7,6 +7,7 @@
 #include "helix/Helix.h"
 #include "tests/app/BareFrames.h"
 #include "tests/support/Waiting.h"
+#include "tests/support/Wheel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -146,6 +147,47 @@ TEST_F(ControlWindows, MnemonicsFocusTheSpinBoxes) {
     for (const auto& [letter, row] : letters) {
         QTest::keyClick(helixWindow, letter, Qt::AltModifier);
         EXPECT_TRUE(at<QSpinBox>(*helixWindow, 1, row).hasFocus()) << "row " << row;
+    }
+}
+
+TEST_F(ControlWindows, TheTabKeyWalksDownTheSpinBoxesAndThenDownTheSliders) {
+    for (const auto& [window, rowCount] :
+         {std::pair(helixWindow.data(), 5), std::pair(appearanceWindow.data(), 3)}) {
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window, patience));
+        for (int column = 1; column <= 2; ++column) {
+            for (int row = 0; row < rowCount; ++row) {
+                EXPECT_TRUE(at<QWidget>(*window, column, row).hasFocus()) << column << ' ' << row;
+                QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+            }
+        }
+        EXPECT_TRUE(at<QSpinBox>(*window, 1, 0).hasFocus());
+    }
+}
+
+TEST_F(ControlWindows, TheFirstSpinBoxIsReplacedByWhatIsTypedAtOnce) {
+    for (QWidget* window : {helixWindow.data(), appearanceWindow.data()}) {
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window, patience));
+        QTest::keyClicks(window->focusWidget(), "35");
+        EXPECT_EQ(at<QSpinBox>(*window, 1, 0).value(), 35);
+    }
+}
+
+TEST_F(ControlWindows, TheWheelLeavesAloneWhatHasNotTheFocus) {
+    for (QWidget* window : {helixWindow.data(), appearanceWindow.data()}) {
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window, patience));
+        const int before = at<QSpinBox>(*window, 1, 1).value();
+        for (int column = 1; column <= 2; ++column) {
+            auto& control = at<QWidget>(*window, column, 1);
+            EXPECT_FALSE(turnWheel(control));
+            EXPECT_EQ(control.focusPolicy(), Qt::StrongFocus) << "the wheel gives no focus";
+            EXPECT_EQ(at<QSpinBox>(*window, 1, 1).value(), before);
+        }
+        at<QWidget>(*window, 2, 1).setFocus();
+        EXPECT_TRUE(turnWheel(at<QWidget>(*window, 2, 1)));
+        EXPECT_GT(at<QSpinBox>(*window, 1, 1).value(), before);
     }
 }
 

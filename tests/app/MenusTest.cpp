@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
@@ -31,6 +32,11 @@ QList<QAction*> windowEntries(const OpenedWindow& opened) {
     QMenu& windowMenu = menu(opened, "&Window");
     emit windowMenu.aboutToShow();
     return windowMenu.actions();
+}
+
+/** Strikes keys of the keyboard, which go to the window that has the focus. */
+void strike(const QStringList& keys) {
+    QProcess::execute("xdotool", keys);
 }
 
 } // namespace
@@ -132,6 +138,46 @@ TEST(MenusTest, CascadeOverlapsTheFramesAndTheShortcutTilesThemAgain) {
     EXPECT_TRUE(overlap());
     QTest::keyClick(&opened.window(), Qt::Key_T, Qt::ControlModifier);
     EXPECT_FALSE(overlap());
+}
+
+TEST(MenusTest, CascadeShowsEveryTitleBar) {
+    const OpenedWindow opened;
+    for (const int activated : {3, 1, 0}) {
+        QMdiSubWindow* active = opened.area().subWindowList()[activated];
+        opened.area().setActiveSubWindow(active);
+        opened.action("cascadeAct").trigger();
+        for (const QMdiSubWindow* subWindow : opened.area().subWindowList()) {
+            constexpr int belowTheEdge = 8;
+            for (int x = 1; x < subWindow->width(); x += subWindow->width() / 4) {
+                const QPoint inTitleBar = subWindow->geometry().topLeft() + QPoint(x, belowTheEdge);
+                EXPECT_EQ(opened.area().viewport()->childAt(inTitleBar), subWindow)
+                    << qPrintable(subWindow->windowTitle()) << " at " << x;
+            }
+        }
+        EXPECT_EQ(opened.area().activeSubWindow(), active);
+    }
+}
+
+TEST(MenusTest, KeysOfTheKeyboardWalkThroughTheFramesBothWays) {
+    const OpenedWindow opened;
+    const QList<QMdiSubWindow*> all = opened.area().subWindowList();
+    const auto expectActive = [&](int position) {
+        EXPECT_TRUE(waitUntil([&] { return opened.area().activeSubWindow() == all[position]; }))
+            << position;
+    };
+    opened.area().setActiveSubWindow(all[3]);
+    for (const int position : {2, 1, 0, 3}) {
+        strike({"key", "ctrl+shift+Tab"});
+        expectActive(position);
+    }
+    for (const int position : {0, 1, 2, 3}) {
+        strike({"key", "ctrl+Tab"});
+        expectActive(position);
+    }
+    // Quickly, without a release of the other keys.
+    strike({"keydown", "ctrl", "keydown", "shift", "key", "Tab", "key", "Tab", "key", "Tab",
+            "keyup", "shift", "keyup", "ctrl"});
+    expectActive(0);
 }
 
 TEST(MenusTest, AboutBoxHasItsTitleAndText) {

@@ -5,6 +5,7 @@
 #include "app/MainWindow.h"
 #include "tests/app/BareFrames.h"
 #include "tests/app/ParameterDialogs.h"
+#include "tests/support/Wheel.h"
 
 #include <gtest/gtest.h>
 
@@ -176,7 +177,7 @@ TEST_F(ParameterFieldsTest, ShowAndGiveBackEachValueInItsOwnField) {
     EXPECT_EQ(valuesOf(filled.parameters()), valuesOf(distinctSet()));
 }
 
-TEST_F(ParameterFieldsTest, FollowEachOtherUnderTheTabKeyInTheirOrder) {
+TEST_F(ParameterFieldsTest, FollowEachOtherUnderTheTabKeyDownTheColumns) {
     const char* const order[] = {"K1 :",
                                  "K2 :",
                                  "K3 :",
@@ -185,21 +186,44 @@ TEST_F(ParameterFieldsTest, FollowEachOtherUnderTheTabKeyInTheirOrder) {
                                  "<html>&Ucirc;</html>1:",
                                  "<html>&Ucirc;</html>2:",
                                  "<html>&Ucirc;</html>3:",
-                                 "Horizontal Prec:",
-                                 "Vertical Prec:",
                                  "Point R:",
+                                 "Horizontal Prec:",
                                  "U3Const Range:",
                                  "U3Axis Range:",
                                  "U3Const Radius:",
-                                 "U3Axis Radius:"};
+                                 "U3Axis Radius:",
+                                 "Vertical Prec:"};
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, patience));
-    field(dialog, order[0]).setFocus();
     for (const char* label : order) {
         EXPECT_TRUE(field(dialog, label).hasFocus()) << label;
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     }
+    EXPECT_TRUE(button(dialog, "Cancel").hasFocus());
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     EXPECT_TRUE(button(dialog, "Ok").hasFocus());
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(field(dialog, order[0]).hasFocus());
+}
+
+TEST_F(ParameterFieldsTest, TheFirstOneIsReplacedByWhatIsTypedAtOnce) {
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, patience));
+    QTest::keyClicks(dialog.focusWidget(), "1,2");
+    EXPECT_EQ(dialog.parameters().K1, 1.2);
+}
+
+TEST_F(ParameterFieldsTest, LeaveTheWheelAloneUnlessTheyHaveTheFocus) {
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, patience));
+    for (const char* label : {"K2 :", "Vertical Prec:"}) {
+        const std::vector<double> before = valuesOf(dialog.parameters());
+        EXPECT_FALSE(turnWheel(field(dialog, label)));
+        EXPECT_EQ(valuesOf(dialog.parameters()), before);
+        field(dialog, label).setFocus();
+        EXPECT_TRUE(turnWheel(field(dialog, label)));
+        EXPECT_NE(valuesOf(dialog.parameters()), before);
+    }
 }
 
 TEST_F(AskingForParameters, AcceptedValuesAreTheAnswerAndTheFrameIsNotChanged) {
@@ -224,6 +248,28 @@ TEST_F(AskingForParameters, GivingUpIsNoAnswer) {
         pressEscape(dialog);
     }});
     EXPECT_FALSE(answer.has_value());
+}
+
+TEST_F(AskingForParameters, NothingIsAcceptedInPlaceOfARefusedText) {
+    ask({[](QWidget& dialog) {
+        for (const bool clicks : {false, true}) {
+            QAbstractSpinBox& K2 = field(dialog, "K2 :");
+            K2.setFocus();
+            type(dialog, "K2 :", "1.9.5");
+            if (clicks) {
+                click(dialog, "Ok");
+            } else {
+                pressEnter(dialog);
+            }
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_TRUE(K2.hasFocus());
+            EXPECT_EQ(K2.text(), "1.91");
+        }
+        QTest::keyClicks(dialog.focusWidget(), "1,95");
+        click(dialog, "Ok");
+    }});
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer->K2, 1.95);
 }
 
 TEST_F(AskingForParameters, BrokenConditionShowsItsPictureAndTheModelsValuesAgain) {

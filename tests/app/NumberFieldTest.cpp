@@ -1,0 +1,174 @@
+// A number field by itself, filled by keys and from the clipboard as by a user of several
+// countries.
+
+#include "app/NumberField.h"
+
+#include "tests/support/Waiting.h"
+#include "tests/support/Wheel.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QSlider>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace {
+
+/** What a user of the locale enters into fields from -100 to 100 that begin at 1,37 and at 64. */
+class NumberFieldTest : public testing::TestWithParam<const char*> {
+protected:
+    NumberFieldTest() {
+        QLocale::setDefault(QLocale(GetParam()));
+        decimal = new DecimalField(&window);
+        decimal->setRange(-100, 100);
+        decimal->setValue(1.37);
+        whole = new WholeField(&window);
+        whole->setRange(-2000, 2000);
+        whole->setValue(64);
+        whole->move(0, 50);
+        window.resize(300, 100);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, patience));
+    }
+    ~NumberFieldTest() override { QLocale::setDefault(QLocale::c()); }
+    NumberFieldTest(const NumberFieldTest&) = delete;
+    NumberFieldTest& operator=(const NumberFieldTest&) = delete;
+
+    static void begin(QAbstractSpinBox& field) {
+        field.setFocus();
+        field.selectAll();
+    }
+    static void type(QAbstractSpinBox& field, const QString& text) {
+        begin(field);
+        QTest::keyClicks(&field, text);
+    }
+    static void paste(QAbstractSpinBox& field, const QString& text) {
+        begin(field);
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    }
+
+    /** The field's text after the user has left it for the other one. */
+    QString leave(QAbstractSpinBox& field) const {
+        QTest::keyClick(&field, Qt::Key_Tab);
+        EXPECT_FALSE(field.hasFocus());
+        return field.text();
+    }
+
+    QString shown(double value) const { return window.locale().toString(value, 'f', 2); }
+
+    QWidget window;
+    DecimalField* decimal;
+    WholeField* whole;
+};
+
+} // namespace
+
+TEST_P(NumberFieldTest, TakesPointAndCommaTypedAndPasted) {
+    for (const auto& enter : {type, paste}) {
+        for (const char* text : {"2.5", "2,5", "+2,5", " 2.5 ", "25e-1"}) {
+            decimal->setValue(1.37);
+            enter(*decimal, text);
+            EXPECT_EQ(decimal->value(), 2.5) << text;
+            EXPECT_EQ(leave(*decimal), shown(2.5)) << text;
+        }
+        enter(*decimal, "-37,25");
+        EXPECT_EQ(leave(*decimal), shown(-37.25));
+        enter(*decimal, "1e2");
+        EXPECT_EQ(leave(*decimal), shown(100));
+    }
+}
+
+TEST_P(NumberFieldTest, TakesBothDecimalKeysOfTheKeypad) {
+    for (const char* text : {".", ","}) {
+        begin(*decimal);
+        for (const auto& [key, sign] :
+             {std::pair(Qt::Key_4, "4"),
+              std::pair(*text == '.' ? Qt::Key_Period : Qt::Key_Comma, text),
+              std::pair(Qt::Key_2, "2")}) {
+            QTest::sendKeyEvent(QTest::Click, decimal, key, QString(sign), Qt::KeypadModifier);
+        }
+        EXPECT_EQ(decimal->value(), 4.2) << text;
+        decimal->setValue(1.37);
+    }
+}
+
+TEST_P(NumberFieldTest, NeverTakesAnotherNumberThanTheOneEntered) {
+    for (const auto& enter : {type, paste}) {
+        for (const char* text : {"1,000.5", "1.000,5", "1 000", "1.2.5", "2,,5", "2;5", "5-", "1x2",
+                                 "200", "200.5", "-100.01", "0.125", "1e3", "1e-3", "-", ""}) {
+            decimal->setValue(1.37);
+            enter(*decimal, text);
+            if (*text == 0) {
+                QTest::keyClick(decimal, Qt::Key_Delete);
+            }
+            EXPECT_EQ(decimal->text(), text) << "every character is seen";
+            EXPECT_EQ(leave(*decimal), shown(1.37)) << text;
+            EXPECT_EQ(decimal->value(), 1.37) << text;
+        }
+        for (const char* text : {"2.5", "2,5", "1,000", "1.000", "1 000", "1e2", "2001"}) {
+            whole->setValue(64);
+            enter(*whole, text);
+            EXPECT_EQ(leave(*whole), "64") << text;
+        }
+    }
+}
+
+TEST_P(NumberFieldTest, EnterOnARefusedTextGoesNoFurtherAndSaysWhy) {
+    type(*decimal, "200");
+    QKeyEvent refused(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(decimal, &refused);
+    EXPECT_TRUE(refused.isAccepted());
+    EXPECT_EQ(decimal->text(), shown(1.37));
+    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
+    EXPECT_EQ(QToolTip::text(), "\"200\" is not taken: enter a number from " + shown(-100) +
+                                    " to " + shown(100) + " with at most 2 decimals.");
+    QToolTip::hideText();
+
+    type(*decimal, "12,5");
+    QKeyEvent taken(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier);
+    QApplication::sendEvent(decimal, &taken);
+    EXPECT_FALSE(taken.isAccepted());
+    EXPECT_EQ(decimal->value(), 12.5);
+
+    type(*whole, "2.5");
+    QTest::keyClick(whole, Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
+    EXPECT_EQ(QToolTip::text(), "\"2.5\" is not taken: enter a whole number from -2000 to 2000.");
+    QToolTip::hideText();
+}
+
+TEST_P(NumberFieldTest, ARefusedTextGivesWayToTheLastValueThatWasSettled) {
+    type(*decimal, "12,5");
+    QTest::keyClick(decimal, Qt::Key_Return);
+    type(*decimal, "3 3");
+    EXPECT_EQ(leave(*decimal), shown(12.5));
+    QTest::keyClick(decimal, Qt::Key_Up);
+    type(*decimal, "3 3");
+    EXPECT_EQ(leave(*decimal), shown(12.51 + 1 - 0.01));
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, NumberFieldTest, testing::Values("C", "de_DE", "fr_FR"));
+
+TEST(FocusedWheelTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {
+    QWidget window;
+    DecimalField decimal(&window);
+    WholeField whole(&window);
+    FocusedWheel<QSlider> slider(&window);
+    QLineEdit other(&window);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, patience));
+    const std::vector<QWidget*> controls{&decimal, &whole, &slider};
+    for (QWidget* control : controls) {
+        other.setFocus();
+        EXPECT_FALSE(turnWheel(*control));
+        EXPECT_EQ(control->property("value").toDouble(), 0);
+        EXPECT_TRUE(other.hasFocus());
+        EXPECT_EQ(control->focusPolicy(), Qt::StrongFocus);
+        control->setFocus();
+        EXPECT_TRUE(turnWheel(*control));
+        EXPECT_GT(control->property("value").toDouble(), 0);
+    }
+}
