@@ -49,6 +49,9 @@ TEST_F(FittedCameraTest, OrthographicOneEnclosesTheSceneAsTheViewerDoes) {
     expectAsTheViewerDraws();
     transform->scaleFactor.setValue(11, 17, 13);
     expectAsTheViewerDraws();
+    // Without a perspective, what is behind the eye is seen too.
+    transform->translation.setValue(3, 5, 100);
+    expectAsTheViewerDraws();
 }
 
 TEST_F(FittedCameraTest, PerspectiveOneKeepsItsDistanceFromTheEye) {
@@ -61,12 +64,21 @@ TEST_F(FittedCameraTest, PerspectiveOneKeepsItsDistanceFromTheEye) {
     expectAsTheViewerDraws();
 }
 
-TEST_F(FittedCameraTest, SceneBehindTheCameraMovesNoPlane) {
+TEST_F(FittedCameraTest, SceneBehindAPerspectiveCameraMovesNoPlane) {
+    shown.driver().key(Qt::Key_P);
     viewer().render();
     transform->translation.setValue(0, 0, 1000);
     const NodePointer<SoCamera> copy = fitted();
-    EXPECT_EQ(copy->farDistance.getValue(), viewer().getCamera()->farDistance.getValue());
     viewer().render();
     EXPECT_EQ(copy->farDistance.getValue(), viewer().getCamera()->farDistance.getValue());
     EXPECT_EQ(copy->nearDistance.getValue(), viewer().getCamera()->nearDistance.getValue());
+}
+
+TEST_F(FittedCameraTest, EmptySceneMovesNoPlane) {
+    const SoCamera& own = *viewer().getCamera();
+    const NodePointer<SoSeparator> empty(new SoSeparator);
+    const NodePointer<SoCamera> copy =
+        FittedCamera::copyOf(own, *empty, viewer().getViewportRegion());
+    EXPECT_EQ(copy->farDistance.getValue(), own.farDistance.getValue());
+    EXPECT_EQ(copy->nearDistance.getValue(), own.nearDistance.getValue());
 }
