@@ -30,7 +30,7 @@ public:
         if (stream != nullptr) {
             std::fclose(stream);
         }
-        std::free(data); // NOLINT(cppcoreguidelines-no-malloc): the stream allocates it so.
+        std::free(data);
     }
     MemoryStream(const MemoryStream&) = delete;
     MemoryStream& operator=(const MemoryStream&) = delete;

@@ -4,6 +4,7 @@
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -34,13 +35,14 @@ NodePointer<SoCamera> FittedCamera::copyOf(const SoCamera& camera, SoNode& scene
     // A camera looks along its negative third axis.
     float nearest = -box.getMax()[2];
     const float farthest = -box.getMin()[2];
-    if (box.isEmpty() || farthest <= 0) {
+    const bool perspective = camera.isOfType(SoPerspectiveCamera::getClassTypeId());
+    if (box.isEmpty() || (perspective && farthest <= 0)) {
         return fitted;
     }
-    if (camera.isOfType(SoPerspectiveCamera::getClassTypeId())) {
+    if (perspective) {
         nearest = std::max(nearest, farthest / largestDepthRatio);
     }
-    fitted->nearDistance = nearest * (1 - slack);
-    fitted->farDistance = farthest * (1 + slack);
+    fitted->nearDistance = nearest - slack * std::fabs(nearest);
+    fitted->farDistance = farthest + slack * std::fabs(farthest);
     return fitted;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 /**
  * What the light units of an OpenGL context hold, whether they are switched on or not.

@@ -46,15 +46,31 @@ QByteArray plainText(const HelixFrame& frame) {
 
 TEST_F(DocumentSavingTest, EitherKindOfFrameIsWrittenAndReplacesWhatWasThere) {
     const QString path = folder.filePath("one.txt");
-    DocumentSaving::writeText(path, *x, true);
+    EXPECT_EQ(DocumentSaving::writeText(path, *x, true), "Saved " + path);
     EXPECT_EQ(contentOf("one.txt"), plainText(*x));
-    DocumentSaving::writeText(path, *helix, false);
+    EXPECT_EQ(DocumentSaving::writeText(path, *helix, false), "Saved " + path);
     EXPECT_EQ(contentOf("one.txt"), plainText(*helix));
 }
 
 TEST_F(DocumentSavingTest, FileThatCannotBeOpenedIsNotReported) {
-    DocumentSaving::writeText(folder.filePath("missing/folder/file.txt"), *x, true);
+    EXPECT_EQ(DocumentSaving::writeText(folder.filePath("missing/folder/file.txt"), *x, true), "");
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(DocumentSavingTest, FileThatNothingCanBePutBesideIsReportedAndStays) {
+    // The name leaves no room for that of a second file.
+    const QString name(250, 'n');
+    QFile older(folder.filePath(name));
+    ASSERT_TRUE(older.open(QIODevice::WriteOnly));
+    older.write("older");
+    older.close();
+    testing::internal::CaptureStderr();
+    const QString said = DocumentSaving::writeText(older.fileName(), *x, true);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), said.toStdString() + "\n");
+    EXPECT_TRUE(said.startsWith("Not saved: " + older.fileName() + " (")) << said.toStdString();
+    EXPECT_FALSE(said.endsWith("()"));
+    EXPECT_EQ(contentOf(name), "older");
+    EXPECT_EQ(names(), QStringList(name));
 }
 
 TEST_F(DocumentSavingTest, ChosenFileGetsTheTextAndItsSuffix) {

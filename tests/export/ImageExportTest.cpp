@@ -10,23 +10,55 @@
 
 #include <Inventor/C/glue/gl.h>
 #include <Inventor/SoOffscreenRenderer.h>
-#include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QAbstractButton>
+#include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QOpenGLContext>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QStatusBar>
 #include <clocale>
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr int printer = 300;
+class ImageExportTest : public PrintedViews {
+protected:
+    QString status() const { return opened.window().statusBar()->currentMessage(); }
 
-class ImageExportTest : public PrintedViews {};
+    void createOlderFile() const {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(older);
+    }
+
+    /** Saves a view in the place of what is there; returns what was written to standard output. */
+    std::string saveOver(SoQtGeneralViewerFrame& frame) {
+        opened.activate(frame);
+        testing::internal::CaptureStdout();
+        DialogDriver()
+            .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path()); })
+            .then<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); })
+            .during([&] { opened.action("saveImageAct").trigger(); });
+        return testing::internal::GetCapturedStdout();
+    }
+
+    /** Fails to save a view in the place of an older file, which stays, and says so twice. */
+    void expectFailure(SoQtGeneralViewerFrame& frame, const QString& reason) {
+        createOlderFile();
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(saveOver(frame), "ok? 0\n");
+        const std::string said = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(status(), "Not saved: " + path() + " (" + reason + ")");
+        EXPECT_EQ(said, status().toStdString() + "\n");
+        EXPECT_EQ(saved(), older);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("view.eps"));
+    }
+
+    const QByteArray older = "an older picture";
+};
+
 } // namespace
 
 TEST(PrintSize, IsWholeInchesAtThePrintersResolution) {
@@ -55,13 +87,10 @@ TEST_F(ImageExportTest, FileHasItsHeaderAndItsSize) {
     const QByteArray file = saved();
     EXPECT_TRUE(file.startsWith("%!PS-Adobe"));
     const SbVec2s size = expectedSize(opened.hyperboloid(0));
-    const auto box = QRegularExpression("%%BoundingBox: (\\d+) (\\d+) (\\d+) (\\d+)")
-                         .match(QString::fromLatin1(file));
-    ASSERT_TRUE(box.hasMatch());
-    // The scene library places the picture on a page at the screen's resolution.
-    const float points = 72 / SoOffscreenRenderer::getScreenPixelsPerInch();
-    EXPECT_NEAR(box.captured(3).toInt() - box.captured(1).toInt(), size[0] * points, 1);
-    EXPECT_NEAR(box.captured(4).toInt() - box.captured(2).toInt(), size[1] * points, 1);
+    const QByteArray box = "%%BoundingBox: 0 0 " + QByteArray::number(size[0] / printer * 72) +
+                           " " + QByteArray::number(size[1] / printer * 72) + "\n";
+    EXPECT_TRUE(file.contains(box)) << box.constData();
+    EXPECT_TRUE(file.contains("/image_dpi 300.0 def\n"));
     EXPECT_TRUE(file.contains("/image_wd " + QByteArray::number(size[0]) + " def"));
     EXPECT_TRUE(file.contains("/image_ht " + QByteArray::number(size[1]) + " def"));
     EXPECT_TRUE(file.contains("%%EOF"));
@@ -133,17 +162,46 @@ TEST_F(ImageExportTest, HalfWrittenPictureIsRemoved) {
     EXPECT_FALSE(QFile::exists(path()));
 }
 
-TEST_F(ImageExportTest, WhatIsNoFileOfItsOwnStaysWhenTheExportFails) {
-    ASSERT_TRUE(QFile::link("/dev/full", path()));
-    opened.activate(opened.hyperboloid(0));
+TEST_F(ImageExportTest, SavedPictureIsSaidInTheStatusBarAndTakesTheOldersPlace) {
+    createOlderFile();
+    EXPECT_EQ(saveOver(opened.hyperboloid(0)), "ok? 1\n");
+    EXPECT_EQ(status(), "Saved " + path());
+    EXPECT_TRUE(saved().startsWith("%!PS-Adobe"));
+}
+
+TEST_F(ImageExportTest, OlderPictureStaysWhenTheDiskIsFull) {
+    const LargestFileSize limit(10000);
+    expectFailure(opened.hyperboloid(0), "File too large");
+}
+
+TEST_F(ImageExportTest, OlderPictureStaysWhenTheViewCannotBeRendered) {
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    u.getViewer()->setViewportRegion(SbViewportRegion(50, 400));
+    expectFailure(u, "the view cannot be rendered");
+}
+
+TEST_F(ImageExportTest, FrameThatIsClosedWhileTheUserChoosesLeavesNoFile) {
+    opened.activate(opened.firstHelix());
     testing::internal::CaptureStdout();
     DialogDriver()
-        .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path()); })
-        .then<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); })
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            delete &opened.subWindow(opened.firstHelix());
+            FileDialogs::saveAs(dialog, path());
+        })
         .during([&] { opened.action("saveImageAct").trigger(); });
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "ok? 0\n");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_FALSE(QFile::exists(path()));
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(ImageExportTest, WhatIsNoFileOfItsOwnStaysWhenTheExportFails) {
+    const QString device = fullDevice(folder.path());
+    ASSERT_TRUE(QFile::link(device, path()));
+    EXPECT_EQ(saveOver(opened.hyperboloid(0)), "ok? 0\n");
+    EXPECT_EQ(status(), "Not saved: " + path() + " (No space left on device)");
     EXPECT_TRUE(QFileInfo(path()).isSymLink());
-    EXPECT_TRUE(QFile::exists("/dev/full"));
+    EXPECT_TRUE(QFileInfo::exists(device));
+    EXPECT_FALSE(QFileInfo(device).isFile());
 }
 
 TEST_F(ImageExportTest, ContextThatCannotBeMadeLeavesTheCurrentOne) {

@@ -1,6 +1,7 @@
 #include "tests/export/PrintedViews.h"
 #include "viewer/SoQtGeneralViewer.h"
 
+#include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
@@ -171,13 +172,17 @@ TEST_F(PictureTest, BothSidesAreLitByAHeadlightThatTurnsWithTheCamera) {
 }
 
 TEST_F(PictureTest, PictureShowsTransparencyAndBackground) {
-    HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
-    resizeToWholeInches(m, 5, 4);
-    m.setTransparency(60, true);
-    expectLikeTheScreen(m, "transparent");
-    m.getViewer()->setBackgroundColor(SbColor(0.2F, 0.3F, 0.4F));
-    m.getViewer()->setHeadlight(FALSE);
-    expectLikeTheScreen(m, "background, no headlight");
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    resizeToWholeInches(x, 5, 4);
+    SoQtGeneralViewer& viewer = *x.getViewer();
+    lookFrom(*viewer.getCamera(), SbRotation(SbVec3f(0.3F, 1, 0.1F), 1.0F));
+    x.setTransparency(60, true);
+    expectLikeTheScreen(x, "transparent");
+    viewer.setTransparencyType(SoGLRenderAction::NONE);
+    expectLikeTheScreen(x, "opaque by the viewer's will");
+    viewer.setBackgroundColor(SbColor(0.2F, 0.3F, 0.4F));
+    viewer.setHeadlight(FALSE);
+    expectLikeTheScreen(x, "background, no headlight");
 }
 
 TEST_F(PictureTest, HeadlightThatIsSwitchedOffShinesOnAsOnTheScreen) {

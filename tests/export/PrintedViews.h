@@ -9,12 +9,12 @@
 #include <gtest/gtest.h>
 #include <string>
 
+/** The printer's resolution in dots per inch. */
+constexpr int printer = 300;
+
 /** The real main window with its views, and a folder for pictures of them. */
 class PrintedViews : public testing::Test {
 protected:
-    /** The printer's resolution in dots per inch. */
-    static constexpr int printer = 300;
-
     /** Saves a view through the real dialog; returns what the program wrote to standard output. */
     std::string save(SoQtGeneralViewerFrame& frame, const QString& path);
 

@@ -1,12 +1,14 @@
 #include "tests/reference/PlainDataExport.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
+#include "tests/support/LargestFileSize.h"
 #include "tests/support/OpenedWindow.h"
 
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
@@ -40,6 +42,8 @@ protected:
             .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, path); })
             .during([&] { opened.action(action).trigger(); });
     }
+
+    QString status() const { return opened.window().statusBar()->currentMessage(); }
 
     OpenedWindow opened;
     QTemporaryDir folder;
@@ -130,6 +134,44 @@ TEST_F(Saving, FileThatCannotBeOpenedIsNotReported) {
     opened.window().saveIn(folder.filePath("missing/folder/file.txt"), &opened.hyperboloid(0),
                            true);
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(Saving, StatusBarSaysWhatHasBeenSavedAndWhere) {
+    save("saveXAct", folder.filePath("name"));
+    EXPECT_EQ(status(), "Saved " + folder.filePath("name.txt"));
+    testing::internal::CaptureStderr();
+    opened.window().saveIn(folder.filePath("missing/file.txt"), &opened.hyperboloid(0), true);
+    EXPECT_EQ(status(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(Saving, OlderTextStaysWhenTheDiskIsFullAndTheUserIsTold) {
+    const QString path = folder.filePath("text.txt");
+    save("saveUAct", path);
+    const QByteArray older = contentOf(path);
+    const LargestFileSize limit(5000);
+    for (const bool hyperboloid : {true, false}) {
+        SoQtGeneralViewerFrame* frame = &opened.firstHelix();
+        testing::internal::CaptureStderr();
+        opened.window().saveIn(path, hyperboloid ? &opened.hyperboloid(2) : frame, hyperboloid);
+        const std::string said = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(status(), "Not saved: " + path + " (File too large)");
+        EXPECT_EQ(said, status().toStdString() + "\n");
+        EXPECT_EQ(contentOf(path), older);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("text.txt"));
+    }
+}
+
+TEST_F(Saving, HelixThatIsClosedWhileTheUserChoosesLeavesNoFile) {
+    opened.activate(opened.firstHelix());
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            delete &opened.subWindow(opened.firstHelix());
+            FileDialogs::saveAs(dialog, folder.filePath("dead.txt"));
+        })
+        .during([&] { opened.action("saveHelixAct").trigger(); });
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+    EXPECT_EQ(status(), "");
 }
 
 TEST(SavingWithoutDocuments, HelixShowsTheSameWarning) {
