@@ -142,6 +142,17 @@ TEST_F(StatusLabelsTest, LeaveOutTheEndsOfLongTextsWhereThereIsLittleRoom) {
         << "the message can be read";
 }
 
+TEST_F(StatusLabelsTest, GiveTheSurfaceItsRoomBeforeTheSteering) {
+    const auto u = BareFrames::hyperboloid(Hyperboloid::USPACE);
+    u->set_parameters(1.37, 1.91, 2.23, 0.0, 0.4, 0.83, -0.29, 0.17, 64, 64, 0.3, 7, 7, 0.02, 0.03);
+    labels.showSurfaces({u.get()});
+    QLabel& condition = label("surfaceConditionLabel");
+    showSurfacesIn(condition.sizeHint().width() + label("steeringLabel").sizeHint().width() / 2,
+                   {u.get()});
+    EXPECT_EQ(condition.width(), condition.sizeHint().width());
+    EXPECT_LT(label("steeringLabel").width(), label("steeringLabel").sizeHint().width());
+}
+
 TEST_F(StatusLabelsTest, ShowARefusalInTheRoomOfTheSteeringUntilItIsTakenBack) {
     const auto u = BareFrames::hyperboloid(Hyperboloid::USPACE);
     showSurfacesIn(900, {u.get()});

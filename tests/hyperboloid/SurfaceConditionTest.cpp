@@ -109,6 +109,9 @@ TEST(SurfaceConditionTest, AReplacementThatHappensToBeTheQuadricIsTheQuadric) {
     constexpr HyperboloidParameters p{1.0, 2.0, 3.0, 0.5, 0.5, 0.0, 0.5, -1.0};
     EXPECT_EQ(DrawnModel(p, true).condition().drawn, Drawn::quadric);
     EXPECT_EQ(DrawnModel(p, false).condition().drawn, Drawn::unitHyperboloid);
+    // Here only two of them are: the third is 1.25.
+    expectCondition({1.0, 2.0, 3.0, 0.4, 0.4, 0.0, 0.5, -1.25}, Drawn::unitHyperboloid,
+                    {Cause::zeroSigma});
 }
 
 TEST(SurfaceConditionTest, IsSaidExactlyWhenTheVerticesMissTheQuadric) {
