@@ -144,9 +144,10 @@ TEST_P(NumberFieldTest, ARefusedTextGivesWayToTheLastValueThatWasSettled) {
     QTest::keyClick(decimal, Qt::Key_Return);
     type(*decimal, "3 3");
     EXPECT_EQ(leave(*decimal), shown(12.5));
+    type(*decimal, "5,5");
     QTest::keyClick(decimal, Qt::Key_Up);
     type(*decimal, "3 3");
-    EXPECT_EQ(leave(*decimal), shown(12.51 + 1 - 0.01));
+    EXPECT_EQ(leave(*decimal), shown(6.5));
 }
 
 INSTANTIATE_TEST_SUITE_P(Locales, NumberFieldTest, testing::Values("C", "de_DE", "fr_FR"));
