@@ -10,8 +10,8 @@ class ElidedLabel : public QLabel {
     Q_OBJECT
 
 public:
-    /** @param leastLetters about how many letters of its text can always be read */
-    explicit ElidedLabel(int leastLetters, QWidget* parent = nullptr);
+    /** @param lettersAlwaysShown about how many letters of its text can always be read */
+    explicit ElidedLabel(int lettersAlwaysShown, QWidget* parent = nullptr);
 
     /**
      * Shows a text; without one the label takes no room.

@@ -1,13 +1,13 @@
 #include "app/StatusLabels.h"
 
 #include "app/ElidedLabel.h"
+#include "app/MessageRoom.h"
 #include "app/SteeringText.h"
 #include "app/SurfaceConditionText.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 
 #include <QCoreApplication>
-#include <QFontMetrics>
 #include <QLabel>
 #include <QStatusBar>
 
@@ -24,15 +24,6 @@ Label* add(Label* label, const char* name, QStatusBar& bar, int stretch = 0) {
     label->setObjectName(name);
     bar.addPermanentWidget(label, stretch);
     return label;
-}
-
-/** Keeps the labels off the message at the left: they would take all the room, and hide it. */
-void leaveRoomForMessage(QStatusBar& bar, const QString& message) {
-    constexpr int lettersAtMost = 20;
-    const QFontMetrics metrics = bar.fontMetrics();
-    const int room =
-        qMin(metrics.horizontalAdvance(message + "MM"), lettersAtMost * metrics.averageCharWidth());
-    bar.setContentsMargins(message.isEmpty() ? 0 : room, 0, 0, 0);
 }
 
 QString steeredHelixText(const SoQtGeneralViewerFrame* active) {
@@ -58,8 +49,7 @@ StatusLabels::StatusLabels(QStatusBar& bar)
     , steeredHelix(add(new QLabel, "steeredHelixLabel", bar))
     , helixPoint(add(new QLabel, "helixPointLabel", bar))
     , viewerTitle(add(new QLabel, "viewerTitleLabel", bar)) {
-    QObject::connect(&bar, &QStatusBar::messageChanged, &bar,
-                     [&bar](const QString& message) { leaveRoomForMessage(bar, message); });
+    new MessageRoom(bar);
     showSurfaces({});
     showRefused({});
 }

@@ -73,7 +73,7 @@ TEST(SurfaceStatusTest, LeavesTheWindowAsSmallAsItCanBe) {
     opened.tie(opened.firstHelix(), opened.hyperboloid(Hyperboloid::MSPACE));
     opened.window().refresh_hyperboloids(1, 1.5, 1, 0, 0, 0, 0, 0, 8, 8, 0.3, 7, 7, 0.02, 0.03);
     opened.window().statusBar()->showMessage("Move the focus to the previous window");
-    const QSize small(640, 500);
+    const QSize small(500, 400);
     opened.window().resize(small);
     EXPECT_TRUE(waitUntil([&] { return opened.window().size() == small; }));
 }
