@@ -7,7 +7,6 @@
 #include "app/HyperboloidParameterDialog.h"
 #include "app/ImageExport.h"
 #include "app/Messages.h"
-#include "app/RefusedParametersText.h"
 #include "app/WindowPlace.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
@@ -86,14 +85,10 @@ void MainWindow::newViewer() {
 
 void MainWindow::SayHypoImDead(SbName name) {
     documents.helixDied(name);
-    updateStatusBar();
+    viewerTitleChanged();
 }
 
 void MainWindow::viewerTitleChanged() {
-    updateStatusBar();
-}
-
-void MainWindow::updateStatusBar() {
     statusLabels.show(documents.active());
     statusLabels.showSurfaces(documents.hyperboloids().open());
 }
@@ -102,7 +97,7 @@ void MainWindow::updateMenus() {
     SoQtGeneralViewerFrame* active = documents.active();
     commands.updateEnabled(active != nullptr, documents.count());
     activeFrames.activate(active);
-    updateStatusBar();
+    viewerTitleChanged();
 }
 
 void MainWindow::updateWindowMenu() {
@@ -130,17 +125,15 @@ void MainWindow::closeAllSubWindows() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    const bool closed = documents.closeAll();
-    if (closed) {
+    event->setAccepted(documents.closeAll());
+    if (event->isAccepted()) {
         writeSettings();
     }
-    event->setAccepted(closed);
 }
 
 void MainWindow::setHelixParameters() {
     if (const HelixFrame* frame = activeFrames.currentHelix()) {
-        auto* window = new HelixWindow(frame->getHelix(), this);
-        window->show();
+        (new HelixWindow(frame->getHelix(), this))->show();
     } else {
         Messages::selectHelixViewer();
     }
@@ -168,24 +161,20 @@ void MainWindow::helix_change_precision_tube(int r) {
 
 void MainWindow::refresh_helixs(int oldVertexCount) {
     documents.hyperboloids().keepInPlace(documents.helices(), oldVertexCount);
-    updateStatusBar();
+    viewerTitleChanged();
 }
 
 int MainWindow::verify_param(double K1, double K2, double K3, double K13, double K23) {
-    const auto broken = HyperboloidParameters{K1, K2, K3, K13, K23}.brokenCondition();
-    if (broken == HyperboloidCondition::quadric) {
-        return 2;
-    }
-    return broken == HyperboloidCondition::order ? 1 : 0;
+    return static_cast<int>(HyperboloidParameters{K1, K2, K3, K13, K23}.brokenCondition());
 }
 
 void MainWindow::changeHyperboloidParameters() {
     const HyperboloidFrame* u = documents.hyperboloids().of(Hyperboloid::USPACE);
-    const auto accepted = HyperboloidParameterDialog::ask(
-        u, this, [this](const HyperboloidParameters& refused, const HyperboloidParameters& kept) {
-            statusLabels.showRefused(RefusedParametersText::of(refused, kept));
+    const auto accepted =
+        HyperboloidParameterDialog::ask(u, this, [this](const auto& refused, const auto& kept) {
+            statusLabels.showRefused(refused, kept);
         });
-    statusLabels.showRefused({});
+    statusLabels.clearRefused();
     if (accepted) {
         const auto oldVertexCount = static_cast<int>(u->getNumVertices());
         documents.hyperboloids().setParameters(*accepted);
@@ -201,13 +190,12 @@ void MainWindow::refresh_hyperboloids(double K1, double K2, double K3, double K1
     documents.hyperboloids().setParameters({K1, K2, K3, K13, K23, U1, U2, U3, horizontalPrecision,
                                             verticalPrecision, pointRadius, u3constRange,
                                             u3axisRange, u3constRadius, u3axisRadius});
-    updateStatusBar();
+    viewerTitleChanged();
 }
 
 void MainWindow::changeHyperboloidTransparency() {
     if (const HyperboloidFrame* u = documents.hyperboloids().of(Hyperboloid::USPACE)) {
-        auto* window = new AppearanceWindow(*u, this);
-        window->setVisible(true);
+        (new AppearanceWindow(*u, this))->setVisible(true);
     }
 }
 
@@ -222,9 +210,6 @@ void MainWindow::refreshHyperboloidLight(int light) {
 void MainWindow::refreshHyperboloidSat(int sat) {
     documents.hyperboloids().setSaturation(sat);
 }
-
-// An empty hook: nothing is connected to it.
-void MainWindow::changeHyperboloidColor() {}
 
 void MainWindow::saveHelixData() {
     if (HelixFrame* frame = activeFrames.currentHelix()) {

@@ -41,7 +41,7 @@ public:
     /** Removes a dying helix frame's spheres and unties every hyperboloid frame. */
     void SayHypoImDead(SbName name) override;
 
-    /** Shows the active frame's new title in the status bar. */
+    /** Shows anew what the status bar says of the documents. */
     void viewerTitleChanged() override;
 
     /** Number of helix frames alive. */
@@ -92,7 +92,8 @@ private slots:
     HyperboloidFrame* createHyperboloid(int space, const char* name);
     void setActiveSubWindow(QWidget* window);
     void closeAllSubWindows();
-    void changeHyperboloidColor();
+    /** An empty hook: nothing is connected to it. */
+    void changeHyperboloidColor() {}
     void changeHyperboloidTransparency();
     void changeHyperboloidParameters();
     void refreshHyperboloidTransp(int transp);
@@ -115,7 +116,6 @@ private:
     void createActions();
     void createMenus();
     void createStatusBar();
-    void updateStatusBar();
     void readSettings();
     void writeSettings();
     QMdiSubWindow* findMdiChild(const QString& title);

@@ -2,6 +2,7 @@
 
 #include "app/ElidedLabel.h"
 #include "app/MessageRoom.h"
+#include "app/RefusedParametersText.h"
 #include "app/SteeringText.h"
 #include "app/SurfaceConditionText.h"
 #include "helix/HelixFrame.h"
@@ -51,7 +52,7 @@ StatusLabels::StatusLabels(QStatusBar& bar)
     , viewerTitle(add(new QLabel, "viewerTitleLabel", bar)) {
     new MessageRoom(bar);
     showSurfaces({});
-    showRefused({});
+    clearRefused();
 }
 
 void StatusLabels::show(const SoQtGeneralViewerFrame* active) {
@@ -71,8 +72,14 @@ void StatusLabels::showSurfaces(const std::vector<HyperboloidFrame*>& surfaces) 
     makeRoomForRefusal();
 }
 
-void StatusLabels::showRefused(const QString& text) {
-    refusedParameters->showText(text);
+void StatusLabels::showRefused(const HyperboloidParameters& refused,
+                               const HyperboloidParameters& kept) {
+    refusedParameters->showText(RefusedParametersText::of(refused, kept));
+    makeRoomForRefusal();
+}
+
+void StatusLabels::clearRefused() {
+    refusedParameters->showText({});
     makeRoomForRefusal();
 }
 

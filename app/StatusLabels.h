@@ -3,6 +3,7 @@
 #include <QString>
 #include <vector>
 
+struct HyperboloidParameters;
 class ElidedLabel;
 class HyperboloidFrame;
 class QLabel;
@@ -37,12 +38,13 @@ public:
     void showSurfaces(const std::vector<HyperboloidFrame*>& surfaces);
 
     /**
-     * Shows why values were refused, until the next call; meanwhile who steers what is not shown:
-     * no view can be clicked while they are asked for again.
+     * Shows why values were refused, and the numbers themselves, until clearRefused(); meanwhile
+     * who steers what is not shown: no view can be clicked while they are asked for again.
      *
-     * @param text empty when there is nothing to be said
+     * @param kept the values that stay in force
      */
-    void showRefused(const QString& text);
+    void showRefused(const HyperboloidParameters& refused, const HyperboloidParameters& kept);
+    void clearRefused();
 
 private:
     void makeRoomForRefusal();

@@ -7,14 +7,17 @@
 
 class Hyperboloid;
 
-/** The conditions on K1, K2, K3, K13 and K23, in the order in which they are checked. */
+/**
+ * The conditions on K1, K2, K3, K13 and K23, in the order in which they are checked. Their numbers
+ * are those that the main window has always told them apart by.
+ */
 enum class HyperboloidCondition {
     /** K13² / K1 + K23² / K2 < K3 */
-    quadric,
+    quadric = 2,
     /** K1 <= K2 */
-    order,
+    order = 1,
     /** All conditions hold. */
-    none
+    none = 0
 };
 
 /**

@@ -157,13 +157,17 @@ TEST_F(StatusLabelsTest, ShowARefusalInTheRoomOfTheSteeringUntilItIsTakenBack) {
     const auto u = BareFrames::hyperboloid(Hyperboloid::USPACE);
     showSurfacesIn(900, {u.get()});
     EXPECT_FALSE(label("refusedParametersLabel").isVisible());
-    labels.showRefused("Refused: K1 = 2.71");
-    EXPECT_EQ(text("refusedParametersLabel"), "Refused: K1 = 2.71");
+    HyperboloidParameters refused;
+    refused.K1 = 2.71;
+    labels.showRefused(refused, HyperboloidParameters());
+    EXPECT_EQ(text("refusedParametersLabel"),
+              "Refused: K1 = 2.71, K2 = 1.50, K3 = 1.00, K13 = 0.50, K23 = 0.50: K1 ≤ K2 does not "
+              "hold");
     EXPECT_TRUE(label("refusedParametersLabel").isVisible());
     EXPECT_FALSE(label("steeringLabel").isVisible());
     labels.showSurfaces({u.get()});
     EXPECT_FALSE(label("steeringLabel").isVisible());
-    labels.showRefused({});
+    labels.clearRefused();
     EXPECT_FALSE(label("refusedParametersLabel").isVisible());
     EXPECT_TRUE(label("steeringLabel").isVisible());
 }
