@@ -100,6 +100,11 @@ inline DialogDriver::Step seeError(const char* picturePath) {
     };
 }
 
+/** No two equal, and each to be had with the decimals of its field. */
+inline HyperboloidParameters distinctSet() {
+    return {1.37, 1.91, 2.23, 0.61, -0.43, 0.83, -0.29, 0.17, 30, 20, 0.53, 6.11, 5.03, 0.04, 0.06};
+}
+
 /** The fifteen values of a set in the order of the fields. */
 inline std::vector<double> valuesOf(const HyperboloidParameters& set) {
     std::vector<double> values;
