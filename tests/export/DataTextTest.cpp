@@ -77,17 +77,13 @@ TEST(DataText, HyperboloidHasItsLinesInOrder) {
     const std::vector<std::string> lines = linesOf(textOf(WrittenModel()));
     ASSERT_EQ(lines.size(), 43U);
     const std::vector<std::string> head(lines.begin(), lines.begin() + 18);
-    EXPECT_EQ(head, (std::vector<std::string>{
-                        "Hyperboloid Parameters:", "", "K1 = 1.0000000000", "K2 = 1.5000000000",
-                        "K3 = 1.0000000000", "K13 = 0.5000000000", "K23 = 0.5000000000",
-                        "\xC3\x9B"
-                        "1 = 0.1000000015",
-                        "\xC3\x9B"
-                        "2 = 0.0000000000",
-                        "\xC3\x9B"
-                        "3 = 0.0000000000",
-                        "a = -0.2000000030", "b = 1.0000000000", "c = 0.0000000000",
-                        "d = -1.0000000000", "", "", "Points in the Hyperboloid:", ""}));
+    EXPECT_EQ(head,
+              (std::vector<std::string>{
+                  "Hyperboloid Parameters:", "", "K1 = 1.0000000000", "K2 = 1.5000000000",
+                  "K3 = 1.0000000000", "K13 = 0.5000000000", "K23 = 0.5000000000",
+                  "\u00DB1 = 0.1000000015", "\u00DB2 = 0.0000000000", "\u00DB3 = 0.0000000000",
+                  "a = -0.2000000030", "b = 1.0000000000", "c = 0.0000000000", "d = -1.0000000000",
+                  "", "", "Points in the Hyperboloid:", ""}));
 }
 
 TEST(DataText, AgreesWithPlainStreamsInEverySpaceAndGridShape) {

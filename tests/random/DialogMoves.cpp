@@ -104,6 +104,9 @@ DialogMoves::DialogMoves(const OpenedWindow& openedWindow)
     : opened(openedWindow) {
     // The file dialog reads a quotation mark as the start of a name of its own, without a folder.
     QDir::setCurrent(folder.path());
+    // A disk without room, under a name that needs no suffix.
+    QFile::link("/dev/full", folder.filePath("full.txt"));
+    QFile::link("/dev/full", folder.filePath("full.eps"));
 }
 
 std::vector<Move> DialogMoves::all() {
@@ -215,7 +218,8 @@ std::string DialogMoves::anyPath(Dice& dice) const {
                                          folder.filePath("picture.eps").toStdString(),
                                          folder.filePath("no such folder/x.txt").toStdString(),
                                          folder.path().toStdString(),
-                                         "/dev/full",
+                                         folder.filePath("full.txt").toStdString(),
+                                         folder.filePath("full.eps").toStdString(),
                                          "",
                                          folder.filePath("*?\"\n").toStdString()};
     return dice.oneOf(paths);
