@@ -49,7 +49,7 @@ QString saved(const QString& fileName) {
 
 /** Says it on standard error and returns it. */
 QString notSaved(const QString& fileName, const QString& reason) {
-    const QString text = translated("Not saved: %1 (%2)").arg(fileName, reason);
+    QString text = translated("Not saved: %1 (%2)").arg(fileName, reason);
     std::cerr << text.toLocal8Bit().constData() << std::endl;
     return text;
 }

@@ -23,5 +23,7 @@ bool MessageRoom::eventFilter(QObject* watched, QEvent* event) {
 void MessageRoom::update() {
     const QString message = bar.currentMessage();
     const int needed = bar.fontMetrics().horizontalAdvance(message + "MM");
+    // What finds no room can be read by resting the mouse on it.
+    bar.setToolTip(message);
     bar.setContentsMargins(message.isEmpty() ? 0 : qMin(needed, bar.width() / 3), 0, 0, 0);
 }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -57,6 +58,9 @@ public:
     }
 
     void stepBy(int steps) override {
+        if (!this->hasAcceptableInput()) {
+            this->interpretText();
+        }
         FocusedWheel<SpinBox>::stepBy(steps);
         valueBefore.reset();
     }
@@ -89,26 +93,30 @@ private:
     }
 
     void explain(const QString& refused) const {
-        const auto sentence = [&] {
-            if constexpr (isWhole) {
-                return QCoreApplication::translate(
-                           "NumberField",
-                           "\"%1\" is not taken: enter a whole number from %2 to %3.")
-                    .arg(refused);
-            } else {
-                return QCoreApplication::translate(
-                           "NumberField",
-                           "\"%1\" is not taken: enter a number from %2 to %3 with at most %n "
-                           "decimals.",
-                           nullptr, this->decimals())
-                    .arg(refused);
+        const QString least = this->textFromValue(this->minimum());
+        const QString most = this->textFromValue(this->maximum());
+        if constexpr (isWhole) {
+            showTip(QCoreApplication::translate(
+                        "NumberField", "\"%1\" is not taken: enter a whole number from %2 to %3.")
+                        .arg(refused, least, most));
+        } else {
+            showTip(QCoreApplication::translate(
+                        "NumberField",
+                        "\"%1\" is not taken: enter a number from %2 to %3 with at most %n "
+                        "decimals.",
+                        nullptr, this->decimals())
+                        .arg(refused, least, most));
+        }
+    }
+
+    /** Shows it when the focus has gone where it goes and no button of the mouse is down. */
+    void showTip(const QString& text) const {
+        constexpr int laterInMilliseconds = 20;
+        QTimer::singleShot(laterInMilliseconds, this, [this, text] {
+            if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+                showTip(text);
+                return;
             }
-        };
-        const QString text = sentence()
-                                 .arg(this->textFromValue(this->minimum()))
-                                 .arg(this->textFromValue(this->maximum()));
-        // Later: where the focus goes to would hide it.
-        QTimer::singleShot(0, this, [this, text] {
             QToolTip::showText(this->mapToGlobal(this->rect().bottomLeft()), text, this->window());
         });
     }

@@ -7,7 +7,8 @@
 namespace {
 
 QChar inPlainSigns(QChar sign, const QLocale& locale) {
-    if (sign.digitValue() >= 0) {
+    // No other kind of digit: a superscript is none of the number's.
+    if (sign.category() == QChar::Number_DecimalDigit) {
         return QLatin1Char(static_cast<char>('0' + sign.digitValue()));
     }
     if (sign == ',' || sign == locale.decimalPoint()) {

@@ -84,5 +84,9 @@ void StatusLabels::clearRefused() {
 }
 
 void StatusLabels::makeRoomForRefusal() {
-    steering->setVisible(!steering->text().isEmpty() && refusedParameters->text().isEmpty());
+    const bool isRefusing = !refusedParameters->text().isEmpty();
+    steering->setVisible(!steering->text().isEmpty() && !isRefusing);
+    for (QLabel* label : {steeredHelix, helixPoint, viewerTitle}) {
+        label->setVisible(!isRefusing);
+    }
 }

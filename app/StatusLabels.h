@@ -39,7 +39,7 @@ public:
 
     /**
      * Shows why values were refused, and the numbers themselves, until clearRefused(); meanwhile
-     * who steers what is not shown: no view can be clicked while they are asked for again.
+     * nothing is said of the views: none can be clicked while they are asked for again.
      *
      * @param kept the values that stay in force
      */

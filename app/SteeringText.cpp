@@ -24,7 +24,7 @@ QString nameOf(const HyperboloidFrame& surface) {
     return translated("%1 (%2)").arg(surface.windowTitle(), letter);
 }
 
-/** In the order of the surfaces. */
+/** In the order of the surfaces, but first those that steer nothing: the end may find no room. */
 std::vector<Group> groupsOf(const std::vector<HyperboloidFrame*>& surfaces) {
     std::vector<Group> groups;
     for (const HyperboloidFrame* surface : surfaces) {
@@ -36,6 +36,8 @@ std::vector<Group> groupsOf(const std::vector<HyperboloidFrame*>& surfaces) {
         }
         group->surfaces << nameOf(*surface);
     }
+    std::stable_partition(groups.begin(), groups.end(),
+                          [](const Group& group) { return group.helix == nullptr; });
     return groups;
 }
 

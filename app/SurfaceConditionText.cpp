@@ -19,7 +19,7 @@ QString drawnText(Drawn drawn) {
     case Drawn::rounded:
         return translated("Shaped by rounding, not the quadric: %1");
     case Drawn::point:
-        return translated("Dark point, not the quadric: %1");
+        return translated("Point, not the quadric: %1");
     case Drawn::nothing:
         return translated("No surface: %1");
     default:
@@ -68,7 +68,7 @@ QString SurfaceConditionText::explanation(const SurfaceCondition& condition) {
                           "its size and its colours mean nothing.");
     case Drawn::point:
         return translated("The quadric is so nearly a cone that all its vertices are rounded to "
-                          "its centre: their energies are undefined, their colour is dark.");
+                          "its centre: their energies are undefined, their colour means nothing.");
     case Drawn::nothing:
         return translated("The vertices have no finite coordinates.");
     default:

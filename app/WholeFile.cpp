@@ -26,8 +26,13 @@ fs::path behindLinks(fs::path path) {
         if (i == mostLinks) {
             return {};
         }
-        const fs::path folder = fs::canonical(fs::absolute(path).parent_path(), error);
-        path = folder / fs::read_symlink(path, error);
+        const fs::path target = fs::read_symlink(path, error);
+        const fs::path folder =
+            error ? fs::path() : fs::canonical(fs::absolute(path, error).parent_path(), error);
+        if (error) {
+            return {};
+        }
+        path = folder / target;
     }
     return path;
 }

@@ -51,16 +51,17 @@ struct SurfaceCondition {
     /** The numbers of a model that decide where its surface lies. */
     struct Model {
         /** K1, K2, K3, K13, K23 */
-        std::array<float, 5> K;
+        std::array<float, 5> K{};
         Vecteur uHat;
         /** alpha0, alpha1, alpha2 as they are drawn with. */
-        std::array<float, 3> semiAxis;
+        std::array<float, 3> semiAxis{};
         /** Whether the axis is the second coordinate of X space instead of the first. */
-        bool swapAxes;
+        bool swapAxes = false;
     };
 
     Drawn drawn = Drawn::quadric;
-    /** Empty for the quadric; otherwise all that must change before it is drawn. */
+    /** Empty for the quadric; otherwise what must change before it is drawn, as far as it is seen.
+     */
     std::vector<Cause> causes;
 
     /**

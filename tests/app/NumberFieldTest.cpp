@@ -150,6 +150,15 @@ TEST_P(NumberFieldTest, ARefusedTextGivesWayToTheLastValueThatWasSettled) {
     EXPECT_EQ(leave(*decimal), shown(6.5));
 }
 
+TEST_P(NumberFieldTest, AStepFromARefusedTextStartsFromTheLastValueThatWasSettled) {
+    decimal->setValue(1.37);
+    decimal->setSingleStep(0.01);
+    type(*decimal, "200");
+    QTest::keyClick(decimal, Qt::Key_Up);
+    EXPECT_EQ(decimal->text(), shown(1.38));
+    EXPECT_DOUBLE_EQ(decimal->value(), 1.38);
+}
+
 INSTANTIATE_TEST_SUITE_P(Locales, NumberFieldTest, testing::Values("C", "de_DE", "fr_FR"));
 
 TEST(FocusedWheelTest, TheWheelChangesOnlyTheControlThatHasTheFocus) {

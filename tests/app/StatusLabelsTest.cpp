@@ -79,9 +79,9 @@ TEST_F(StatusLabelsTest, TellForEachSurfaceWhichHelixItSteers) {
     m->SetPreviousHelix(first.get());
     labels.showSurfaces({u.get(), x.get(), m.get()});
     EXPECT_EQ(text("steeringLabel"),
-              u->windowTitle() + " (U) steers " + second->windowTitle() + " · " + x->windowTitle() +
-                  " (X) steers no helix: activate a helix, then this view · " + m->windowTitle() +
-                  " (M) steers " + first->windowTitle());
+              x->windowTitle() + " (X) steers no helix: activate a helix, then this view · " +
+                  u->windowTitle() + " (U) steers " + second->windowTitle() + " · " +
+                  m->windowTitle() + " (M) steers " + first->windowTitle());
 }
 
 TEST_F(StatusLabelsTest, TellTogetherWhichSurfacesSteerTheSameHelix) {
@@ -93,9 +93,8 @@ TEST_F(StatusLabelsTest, TellTogetherWhichSurfacesSteerTheSameHelix) {
     m->SetPreviousHelix(helix.get());
     labels.showSurfaces({u.get(), x.get(), m.get()});
     EXPECT_TRUE(text("steeringLabel")
-                    .startsWith(u->windowTitle() + " (U), " + m->windowTitle() + " (M) steer " +
-                                helix->windowTitle() + " · " + x->windowTitle() +
-                                " (X) steers no"));
+                    .endsWith(" · " + u->windowTitle() + " (U), " + m->windowTitle() +
+                              " (M) steer " + helix->windowTitle()));
     u->PrevHelixDead();
     labels.showSurfaces({u.get(), x.get()});
     EXPECT_EQ(text("steeringLabel"),
@@ -165,9 +164,11 @@ TEST_F(StatusLabelsTest, ShowARefusalInTheRoomOfTheSteeringUntilItIsTakenBack) {
               "hold");
     EXPECT_TRUE(label("refusedParametersLabel").isVisible());
     EXPECT_FALSE(label("steeringLabel").isVisible());
+    EXPECT_FALSE(label("viewerTitleLabel").isVisible());
     labels.showSurfaces({u.get()});
     EXPECT_FALSE(label("steeringLabel").isVisible());
     labels.clearRefused();
     EXPECT_FALSE(label("refusedParametersLabel").isVisible());
     EXPECT_TRUE(label("steeringLabel").isVisible());
+    EXPECT_TRUE(label("viewerTitleLabel").isVisible());
 }

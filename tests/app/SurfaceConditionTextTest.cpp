@@ -20,7 +20,7 @@ TEST(SurfaceConditionTextTest, NamesWhatIsDrawnAndEveryCause) {
     EXPECT_EQ(SurfaceConditionText::of({Drawn::nothing, {Cause::equalK1K2}}),
               "No surface: K1 = K2");
     EXPECT_EQ(SurfaceConditionText::of({Drawn::point, {Cause::uHatOnThirdAxis}}),
-              "Dark point, not the quadric: Û1 = Û2 = 0 (a cone)");
+              "Point, not the quadric: Û1 = Û2 = 0 (a cone)");
 }
 
 TEST(SurfaceConditionTextTest, TellsAllSurfacesAndAllCausesApart) {

@@ -65,7 +65,7 @@ TEST(SurfaceStatusTest, SaysFromAcceptToAcceptThatTheSurfaceIsNotTheQuadric) {
 TEST(SurfaceStatusTest, SaysSoAtOnceWhenCodeSetsTheParameters) {
     const OpenedWindow opened;
     opened.window().refresh_hyperboloids(1, 1.5, 1, 0.5, 0.5, 0, 0, 1, 8, 8, 0.3, 7, 7, 0.02, 0.03);
-    EXPECT_TRUE(opened.label("surfaceConditionLabel").startsWith("Dark point, not the quadric: "));
+    EXPECT_TRUE(opened.label("surfaceConditionLabel").startsWith("Point, not the quadric: "));
 }
 
 TEST(SurfaceStatusTest, LeavesTheWindowAsSmallAsItCanBe) {
