@@ -16,6 +16,10 @@ namespace {
 
 /** What a user of the locale enters into fields from -100 to 100 that begin at 1,37 and at 64. */
 class NumberFieldTest : public testing::TestWithParam<const char*> {
+public:
+    NumberFieldTest(const NumberFieldTest&) = delete;
+    NumberFieldTest& operator=(const NumberFieldTest&) = delete;
+
 protected:
     NumberFieldTest() {
         QLocale::setDefault(QLocale(GetParam()));
@@ -32,8 +36,6 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window, patience));
     }
     ~NumberFieldTest() override { QLocale::setDefault(QLocale::c()); }
-    NumberFieldTest(const NumberFieldTest&) = delete;
-    NumberFieldTest& operator=(const NumberFieldTest&) = delete;
 
     static void begin(QAbstractSpinBox& field) {
         field.setFocus();

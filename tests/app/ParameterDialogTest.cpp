@@ -136,6 +136,7 @@ TEST(ParameterDialogTest, OkButtonAndEnterAcceptEachSurfaceDrawnOnce) {
 TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
     const OpenedWindow opened;
     std::vector<std::unique_ptr<ReplacementCounter>> drawings;
+    drawings.reserve(4);
     for (int space = 0; space < 3; ++space) {
         drawings.push_back(std::make_unique<ReplacementCounter>(
             SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),

@@ -155,7 +155,8 @@ TEST(HyperboloidMesh, PicksTheSameUnderATransformation) {
     plain->addChild(mesh.plain.get());
     int hits = 0;
     for (int i = 0; i < 400; ++i) {
-        const SbVec3f from(static_cast<float>(i % 20) - 10, static_cast<float>(i / 20) - 10, 60);
+        const int row = i / 20;
+        const SbVec3f from(static_cast<float>(i % 20) - 10, static_cast<float>(row) - 10, 60);
         const std::optional<Picked> expected = pick(*plain, from, SbVec3f(0.01F, 0.02F, -1));
         EXPECT_EQ(pick(*quick, from, SbVec3f(0.01F, 0.02F, -1)), expected);
         hits += expected ? 1 : 0;

@@ -20,7 +20,7 @@ namespace {
 
 /** A vertex that a click on its place in the view hits, and that place. */
 struct Target {
-    int index;
+    int index = 0;
     QPoint position;
 };
 

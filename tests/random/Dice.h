@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <random>
+#include <type_traits>
 
 /** What a random user decides by: the same seed gives the same decisions on every machine. */
 class Dice {
@@ -27,7 +28,8 @@ public:
 
     template <typename Container>
     auto& oneOf(Container&& choices) {
-        return choices[static_cast<std::size_t>(below(static_cast<int>(choices.size())))];
+        using Index = std::decay_t<decltype(choices.size())>;
+        return choices[static_cast<Index>(below(static_cast<int>(choices.size())))];
     }
 
 private:

@@ -40,7 +40,7 @@ std::string chooseInWindowMenu(const OpenedWindow& opened, Dice& dice) {
     opened.call("updateWindowMenu");
     QMenu* menu = opened.window().menuBar()->actions().at(1)->menu();
     QAction* entry = dice.oneOf(menu->actions());
-    const std::string text = entry->text().toStdString();
+    std::string text = entry->text().toStdString();
     entry->trigger();
     return text;
 }
@@ -55,7 +55,7 @@ std::string openHelix(const OpenedWindow& opened) {
 
 std::string close(const OpenedWindow& opened, Dice& dice) {
     QMdiSubWindow& subWindow = anySubWindow(opened, dice);
-    const std::string name = nameOf(subWindow);
+    std::string name = nameOf(subWindow);
     subWindow.close();
     return name;
 }

@@ -113,7 +113,8 @@ float visibleArea(const Grid& grid, const Projection& project) {
     float area = 0;
     for (int column = 0; column + 1 < grid.columns; ++column) {
         for (int row = 0; row + 1 < grid.rows; ++row) {
-            const auto corner = static_cast<std::size_t>(row + column * grid.rows);
+            const int index = row + column * grid.rows;
+            const auto corner = static_cast<std::size_t>(index);
             const auto next = corner + static_cast<std::size_t>(grid.rows);
             area += areaOf({seen[corner], seen[corner + 1], seen[next + 1], seen[next]});
         }

@@ -18,6 +18,7 @@
 class LinkedFrames {
 public:
     LinkedFrames();
+    ~LinkedFrames() = default;
     LinkedFrames(const LinkedFrames&) = delete;
     LinkedFrames& operator=(const LinkedFrames&) = delete;
 

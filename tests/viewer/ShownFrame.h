@@ -55,6 +55,7 @@ public:
         frame->show();
         EXPECT_TRUE(waitUntil([this] { return driver().isDrawn(); }));
     }
+    ~FrameOnScreen() = default;
     FrameOnScreen(const FrameOnScreen&) = delete;
     FrameOnScreen& operator=(const FrameOnScreen&) = delete;
 
