@@ -134,7 +134,8 @@ TEST(Vecteur, CompoundOperatorsChangeAndReturnTheVector) {
     EXPECT_EQ(v, Vecteur(0, 3, 6));
     v += v;
     EXPECT_EQ(v, Vecteur(0, 6, 12));
-    v -= v;
+    const Vecteur& itself = v;
+    v -= itself;
     EXPECT_EQ(v, Vecteur(0, 0, 0));
 }
 
