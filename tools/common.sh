@@ -10,9 +10,10 @@ virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
-    valgrind)
-check_packages=(clang-format clang-tidy shellcheck git)
+    valgrind python3-clang libclang-common-14-dev)
+check_packages=(clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
+mutation_packages=(ccache git)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts
 # just then does not get a window.

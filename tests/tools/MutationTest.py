@@ -1,0 +1,147 @@
+"""Where tools/mutate sees something to change, and that a stopped run is taken up where it was."""
+
+import contextlib
+import io
+import pathlib
+import tempfile
+import unittest
+
+from mutation.changes import Change, changes_of
+from mutation.record import KILLED, NOT_COMPILED, SURVIVED, Record, Verdict
+
+SOURCE = """\
+double area(double width, double height);
+void show(double value);
+struct Pair { double first; double second; };
+
+double larger(double a, double b, int times)
+{
+  if (a < b && times != 3) {
+    show(b);
+    return b;
+  }
+  double sum = 0.5;
+  for (int i = 0; i < times; ++i) {
+    sum += area(a, b) * -1.0;
+  }
+  const Pair pair{a, sum};
+  return pair.first;
+}
+"""
+
+
+class ChangesTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.tree = pathlib.Path(folder.name).resolve()
+
+    def changes(self, text, layers=("math",)):
+        source = self.tree / "math" / "Area.cpp"
+        source.parent.mkdir(exist_ok=True)
+        source.write_text(text)
+        return changes_of(self.tree, [(source, ["-std=c++17"])], layers)
+
+    def test_every_kind_of_place_is_found_once(self):
+        found = [f"{c.line} {c.kind}: {c.before} -> {c.after}" for c in self.changes(SOURCE)]
+        self.assertCountEqual(
+            found,
+            [
+                "7 condition: a < b && times != 3 -> !(a < b && times != 3)",
+                "7 comparison: < -> <=",
+                "7 operator: && -> ||",
+                "7 comparison: != -> ==",
+                "7 constant: 3 -> 4",
+                "8 dropped call: show(b) -> ",
+                "9 dropped return: return b -> ",
+                "11 constant: 0.5 -> 0.500500000",
+                "12 constant: 0 -> 1",
+                "12 comparison: < -> <=",
+                "12 operator: ++ -> --",
+                "13 dropped assignment: sum += area(a, b) * -1.0 -> ",
+                "13 operator: += -> -=",
+                "13 exchanged: a, b -> b, a",
+                "13 operator: * -> /",
+                "13 operator: - -> ",
+                "13 constant: 1.0 -> 1.00100000",
+                "15 exchanged: a, sum -> sum, a",
+            ],
+        )
+
+    def test_a_change_names_the_characters_that_it_replaces(self):
+        for change in self.changes("// grüßend\n" + SOURCE):
+            text = (self.tree / change.path).read_bytes()
+            self.assertEqual(text[change.start : change.end].decode(), change.before)
+            self.assertEqual(text[: change.start].count(b"\n") + 1, change.line)
+
+    def test_headers_of_the_layers_are_read_and_others_are_not(self):
+        for layer in ("math", "scene"):
+            header = self.tree / layer / "Unit.h"
+            header.parent.mkdir(exist_ok=True)
+            header.write_text(f"inline int {layer}Unit() {{ return 7; }}\n")
+        including = '#include "Unit.h"\n#include "../scene/Unit.h"\n'
+        self.assertEqual([c.path for c in self.changes(including)], ["math/Unit.h"])
+        both = {c.path for c in self.changes(including, ("math", "scene"))}
+        self.assertEqual(both, {"math/Unit.h", "scene/Unit.h"})
+
+
+class RecordTest(unittest.TestCase):
+    CHANGES = [
+        Change("math/Area.cpp", start, start + 1, 3, "comparison", "<", "<=") for start in range(40)
+    ]
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def record(self, seed=7):
+        return Record(self.folder, "0123456789abcdef", ["math", "helix"], seed, 9)
+
+    def printed(self, action, *arguments):
+        with contextlib.redirect_stdout(io.StringIO()) as output:
+            action(*arguments)
+        return output.getvalue()
+
+    def test_the_seed_alone_decides_what_is_drawn(self):
+        records = [self.record(), self.record(), self.record(seed=8)]
+        for record in records:
+            self.printed(record.draw, self.CHANGES)
+        self.assertEqual(records[0].changes, records[1].changes)
+        self.assertNotEqual(records[0].changes, records[2].changes)
+        self.assertEqual(len(set(records[0].changes)), 9)
+
+    def test_a_stopped_run_goes_on_where_it_was(self):
+        first = self.record()
+        self.printed(first.draw, self.CHANGES)
+        first.note_seconds("math_test", 1.5)
+        given = first.open_changes()
+        self.assertEqual([next(given)[0] for _ in range(3)], [0, 1, 2])
+        self.printed(first.note, 1, Verdict(KILLED, "math_test Matrice.Sum"))
+        first.stop()
+        self.assertEqual(list(given), [])
+
+        second = self.record()
+        self.assertTrue(second.drawn())
+        self.assertEqual(second.changes, first.changes)
+        self.assertEqual(second.seconds, {"math_test": 1.5})
+        self.assertEqual([number for number, _ in second.open_changes()], [0, 2, 3, 4, 5, 6, 7, 8])
+
+    def test_the_summary_counts_and_names_the_survivors(self):
+        record = self.record()
+        self.printed(record.draw, self.CHANGES)
+        for number, outcome in ((0, KILLED), (4, SURVIVED), (5, NOT_COMPILED), (7, KILLED)):
+            self.printed(record.note, number, Verdict(outcome))
+        summary = self.printed(record.print_summary)
+        for line in (
+            "   2 killed\n",
+            "   1 survived\n",
+            "   1 did not compile\n",
+            "   5 not tried yet\n",
+        ):
+            self.assertIn(line, summary)
+        self.assertTrue(summary.endswith(f"survived: {record.changes[4]}\n"))
+
+
+if __name__ == "__main__":
+    unittest.main()
