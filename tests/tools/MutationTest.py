@@ -96,20 +96,36 @@ class RecordTest(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def record(self, seed=7):
-        return Record(self.folder, "0123456789abcdef", ["math", "helix"], seed, 9)
+        return Record(self.folder, ["math", "helix"], seed, 9)
 
     def printed(self, action, *arguments):
         with contextlib.redirect_stdout(io.StringIO()) as output:
             action(*arguments)
         return output.getvalue()
 
+    def test_a_record_of_other_sources_is_refused(self):
+        self.printed(self.record().draw, self.CHANGES)
+        with self.assertRaisesRegex(SystemExit, "sources have changed"):
+            self.record().draw(self.CHANGES[1:])
+
+    def test_survivors_can_be_tried_again(self):
+        record = self.record()
+        self.printed(record.draw, self.CHANGES)
+        for number, outcome in ((3, SURVIVED), (6, KILLED), (8, NOT_COMPILED)):
+            self.printed(record.note, number, Verdict(outcome))
+        record.forget_survivors()
+        self.assertEqual([number for number, _ in record.open_changes()], [0, 1, 2, 3, 4, 5, 7])
+
     def test_the_seed_alone_decides_what_is_drawn(self):
-        records = [self.record(), self.record(), self.record(seed=8)]
-        for record in records:
+        one, another = self.record(), self.record(seed=8)
+        for record in (one, another):
             self.printed(record.draw, self.CHANGES)
-        self.assertEqual(records[0].changes, records[1].changes)
-        self.assertNotEqual(records[0].changes, records[2].changes)
-        self.assertEqual(len(set(records[0].changes)), 9)
+        self.assertEqual(len(set(one.changes)), 9)
+        self.assertNotEqual(one.changes, another.changes)
+        one.path.unlink()
+        anew = self.record()
+        self.printed(anew.draw, self.CHANGES)
+        self.assertEqual(anew.changes, one.changes)
 
     def test_a_stopped_run_goes_on_where_it_was(self):
         first = self.record()
@@ -122,7 +138,7 @@ class RecordTest(unittest.TestCase):
         self.assertEqual(list(given), [])
 
         second = self.record()
-        self.assertTrue(second.drawn())
+        self.printed(second.draw, self.CHANGES)
         self.assertEqual(second.changes, first.changes)
         self.assertEqual(second.seconds, {"math_test": 1.5})
         self.assertEqual([number for number, _ in second.open_changes()], [0, 2, 3, 4, 5, 6, 7, 8])

@@ -8,7 +8,7 @@ commit; what depends on it is built, and the tests that can see it run, those of
 first, until one fails. At the end stand the counts and the change of every survivor.
 
 The copies and what is known so far stay in --folder. Stopped at any time, the same command goes on
-where it was. Random users and long use do not take part: what only they find counts as survived,
+where it was; Ctrl+C lets the changes in hand come to their end. Random users and long use do not take part: what only they find counts as survived,
 because chance found it.
 """
 
@@ -35,6 +35,16 @@ def arguments():
         "--jobs", type=int, default=2, help="copies worked on at a time [%(default)s]"
     )
     parser.add_argument(
+        "--again", action="store_true", help="try those again that have survived: tests are new"
+    )
+    parser.add_argument(
+        "--longest",
+        type=float,
+        default=float("inf"),
+        metavar="SECONDS",
+        help="test programs that take longer are left out [all run]",
+    )
+    parser.add_argument(
         "--folder",
         type=pathlib.Path,
         default=ROOT / "build" / "mutation",
@@ -49,14 +59,15 @@ def arguments():
 def main():
     options = arguments()
     commit = subprocess.check_output(["git", "rev-parse", "HEAD"], cwd=ROOT, text=True).strip()
-    record = Record(options.folder, commit, options.layers, options.seed, options.count)
+    record = Record(options.folder, options.layers, options.seed, options.count)
     workshops = [
         Workshop(ROOT, options.folder / f"copy-{number}", commit) for number in range(options.jobs)
     ]
     for workshop in workshops:
         workshop.prepare()
-    if not record.drawn():
-        record.draw(workshops[0].changes(options.layers))
+    record.draw(workshops[0].changes(options.layers))
+    if options.again:
+        record.forget_survivors()
     seeing = workshops[0].programs_seeing({change.path for change in record.changes})
 
     def measure(number):
@@ -67,10 +78,8 @@ def main():
 
     def judge(number):
         for change_number, change in record.open_changes():
-            programs = sorted(
-                seeing[change.path],
-                key=lambda program: (program.rank, record.seconds[program.name]),
-            )
+            programs = [p for p in seeing[change.path] if record.seconds[p.name] <= options.longest]
+            programs.sort(key=lambda program: (program.rank, record.seconds[program.name]))
             record.note(change_number, workshops[number].judge(change, programs, record.seconds))
 
     with ThreadPoolExecutor(options.jobs) as pool:

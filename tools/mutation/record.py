@@ -21,14 +21,14 @@ class Verdict:
 
 
 class Record:
-    """Changes drawn by a seed from those of one commit, and the verdicts on them.
+    """Changes drawn by a seed, and the verdicts on them.
 
     The file has a line for each drawn change, each test program's time and each verdict. Several threads may use it.
     """
 
-    def __init__(self, folder, commit, layers, seed, count):
+    def __init__(self, folder, layers, seed, count):
         folder.mkdir(parents=True, exist_ok=True)
-        self.path = folder / f"{commit[:12]}-{'-'.join(layers)}-{seed}-{count}.jsonl"
+        self.path = folder / f"{'-'.join(layers)}-{seed}-{count}.jsonl"
         self.seed, self.count = seed, count
         self.changes = []
         self.verdicts = {}
@@ -48,15 +48,24 @@ class Record:
         else:
             self.changes.append(Change(**entry))
 
-    def drawn(self):
-        return bool(self.changes)
-
     def draw(self, changes):
-        """A line for each is written at once, so that a record is never half drawn."""
+        """Draws from all changes of the sources; with a record, they must be those drawn before."""
         count = min(self.count, len(changes))
-        print(f"{count} of {len(changes)} changes drawn with the seed {self.seed}")
-        self.changes = random.Random(self.seed).sample(changes, count)
-        self.write(*(dataclasses.asdict(change) for change in self.changes))
+        drawn = random.Random(self.seed).sample(changes, count)
+        if not self.changes:
+            print(f"{count} of {len(changes)} changes drawn with the seed {self.seed}")
+            self.changes = drawn
+            self.write(*(dataclasses.asdict(change) for change in drawn))
+        elif self.changes != drawn:
+            raise SystemExit(f"The sources have changed: remove {self.path} to begin anew")
+
+    def forget_survivors(self):
+        """They are open again: there may be new tests."""
+        self.verdicts = {
+            number: verdict
+            for number, verdict in self.verdicts.items()
+            if verdict.outcome != SURVIVED
+        }
 
     def write(self, *entries):
         with self.path.open("a") as file:

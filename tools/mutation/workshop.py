@@ -168,8 +168,13 @@ class Workshop:
 
     def compile(self, target):
         command = ["ninja", "-C", "build", "-j1", target]
+        # In a session of its own, as the tests are: Ctrl+C must not pass for an error of the compiler.
         return subprocess.run(
-            command, cwd=self.folder, env=self.compiling(), capture_output=True
+            command,
+            cwd=self.folder,
+            env=self.compiling(),
+            capture_output=True,
+            start_new_session=True,
         ).returncode
 
     def failing_test(self, program, timeout):
