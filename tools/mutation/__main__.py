@@ -38,11 +38,11 @@ def arguments():
         "--again", action="store_true", help="try those again that have survived: tests are new"
     )
     parser.add_argument(
-        "--longest",
-        type=float,
-        default=float("inf"),
-        metavar="SECONDS",
-        help="test programs that take longer are left out [all run]",
+        "--without",
+        action="append",
+        default=[],
+        metavar="PROGRAM",
+        help="a test program that does not run, as closing_test",
     )
     parser.add_argument(
         "--folder",
@@ -78,7 +78,7 @@ def main():
 
     def judge(number):
         for change_number, change in record.open_changes():
-            programs = [p for p in seeing[change.path] if record.seconds[p.name] <= options.longest]
+            programs = [p for p in seeing[change.path] if p.name not in options.without]
             programs.sort(key=lambda program: (program.rank, record.seconds[program.name]))
             record.note(change_number, workshops[number].judge(change, programs, record.seconds))
 
