@@ -217,6 +217,7 @@ TEST_F(ImageExportTest, ContextThatCannotBeMadeLeavesTheCurrentOne) {
 
 TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
     testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {
             FileDialogs::saveAs(dialog, folder.filePath("missing/view.eps"));
@@ -228,14 +229,20 @@ TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
         })
         .during([&] { opened.action("saveImageAct").trigger(); });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(status(),
+              "Not saved: " + folder.filePath("missing/view.eps") + " (No such file or directory)");
+    EXPECT_EQ(said, status().toStdString() + "\n");
 }
 
 TEST_F(ImageExportTest, CancelledDialogWritesNothing) {
     testing::internal::CaptureStdout();
+    opened.window().statusBar()->showMessage("Saved before");
     DialogDriver().then<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); }).during([&] {
         opened.action("saveImageAct").trigger();
     });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(status(), "Saved before");
 }
 
 TEST(ImageExportWithoutDocuments, IsRefusedWithAWarning) {
