@@ -11,19 +11,18 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <QCoreApplication>
 #include <QPointer>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <iostream>
+#include <memory>
 #include <ostream>
 #include <streambuf>
-#include <unistd.h>
+#include <sys/types.h>
 
 namespace {
 
 constexpr int printerDotsPerInch = 300;
 
-/** Lets a stream write to a file, which remembers its first failure. */
+/** Lets a C++ stream write to a file, which remembers its first failure. */
 class FileBuffer : public std::streambuf {
 public:
     explicit FileBuffer(WholeFile& target)
@@ -38,6 +37,21 @@ protected:
 private:
     WholeFile& file;
 };
+
+ssize_t writeToFile(void* file, const char* text, std::size_t size) {
+    auto& target = *static_cast<WholeFile*>(file);
+    target.write(text, size);
+    return target.errorString().isEmpty() ? static_cast<ssize_t>(size) : 0;
+}
+
+using CStream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+/** A C stream that writes to a file, which remembers its first failure; null without memory. */
+CStream cStreamTo(WholeFile& file) {
+    cookie_io_functions_t functions{};
+    functions.write = writeToFile;
+    return {fopencookie(&file, "w", functions), std::fclose};
+}
 
 QString translated(const char* text) {
     return QCoreApplication::translate("MainWindow", text);
@@ -65,23 +79,20 @@ void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isH
 }
 
 /** Renders and writes a picture; returns what hindered it, empty when it is whole. */
-QString writePicture(int handle, const SoQtGeneralViewerFrame& frame) {
-    std::FILE* file = fdopen(dup(handle), "w");
-    if (file == nullptr) {
-        return QString::fromLocal8Bit(std::strerror(errno));
+QString writePicture(WholeFile& file, const SoQtGeneralViewerFrame& frame) {
+    const CStream stream = cStreamTo(file);
+    if (stream != nullptr &&
+        ImageExport::printToPostScript(frame.getSceneRoot(), stream.get(), frame.getViewer(),
+                                       printerDotsPerInch)) {
+        return {};
     }
-    const bool written = ImageExport::printToPostScript(frame.getSceneRoot(), file,
-                                                        frame.getViewer(), printerDotsPerInch);
-    const QString systemError = QString::fromLocal8Bit(std::strerror(errno));
-    const QString failure =
-        std::ferror(file) != 0 ? systemError : translated("the view cannot be rendered");
-    std::fclose(file);
-    return written ? QString() : failure;
+    return file.errorString().isEmpty() ? translated("the view cannot be rendered")
+                                        : file.errorString();
 }
 
 /** Says on standard output whether the whole picture was written; returns what to tell the user. */
 QString writeImage(const QString& fileName, WholeFile& file, const SoQtGeneralViewerFrame& frame) {
-    QString failure = writePicture(file.handle(), frame);
+    QString failure = writePicture(file, frame);
     if (failure.isEmpty() && !file.commit()) {
         failure = file.errorString();
     }
@@ -91,16 +102,19 @@ QString writeImage(const QString& fileName, WholeFile& file, const SoQtGeneralVi
 
 } // namespace
 
-QString DocumentSaving::saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid,
-                                 QWidget* parent) {
+std::optional<QString> DocumentSaving::saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid,
+                                                QWidget* parent) {
     if (frame == nullptr) {
-        return {};
+        return std::nullopt;
     }
     // The frame may be closed while the user chooses the file.
     const QPointer<SoQtGeneralViewerFrame> chosen(frame);
     const QString fileName = Messages::askForFileToSave(
         QCoreApplication::translate("QMainWindow", "Text (*.txt)"), "txt", parent);
-    return fileName.isEmpty() || !chosen ? QString() : writeText(fileName, *chosen, isHyperboloid);
+    if (fileName.isEmpty()) {
+        return std::nullopt;
+    }
+    return chosen ? writeText(fileName, *chosen, isHyperboloid) : QString();
 }
 
 QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame,
@@ -114,21 +128,24 @@ QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralView
     return file.commit() ? saved(fileName) : notSaved(fileName, file.errorString());
 }
 
-QString DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent) {
+std::optional<QString> DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent) {
     if (frame == nullptr || frame->getViewer() == nullptr) {
         Messages::warn(translated("Select a Viewer"), parent);
-        return {};
+        return std::nullopt;
     }
     const QPointer<SoQtGeneralViewerFrame> chosen(frame);
     const QString fileName = Messages::askForFileToSave(
         QCoreApplication::translate("QMainWindow", "PostScript (*.eps)"), "eps", parent);
-    if (fileName.isEmpty() || !chosen) {
-        return {};
+    if (fileName.isEmpty()) {
+        return std::nullopt;
+    }
+    if (!chosen) {
+        return QString();
     }
     WholeFile file(fileName);
     if (!file.isOpen()) {
         Messages::warn(translated("The file %1 cannot be written.").arg(fileName), parent);
-        return {};
+        return notSaved(fileName, file.errorString());
     }
     return writeImage(fileName, file, *chosen);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 class QWidget;
 class SoQtGeneralViewerFrame;
@@ -16,9 +17,10 @@ namespace DocumentSaving {
  *
  * @param frame null, or a hyperboloid or helix frame as the flag says; with null nothing is asked.
  *              It may die while the user chooses; then nothing is written
- * @return what writeText() returns, empty when nothing was tried
+ * @return what writeText() returns, empty when the frame has died; none when nothing was asked or
+ *         the user gave up: what has been said before still stands
  */
-QString saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent);
+std::optional<QString> saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent);
 
 /**
  * Writes a frame's numbers to a file, see DataExport. A file that cannot be opened is passed over.
@@ -35,8 +37,9 @@ QString writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame, 
  * @param frame the frame, which may die while the user chooses; without one, or with one that has
  *              no viewer, only a warning is shown
  * @return what to tell the user: that the file has been saved, or why it has not, which is on
- *         standard error too; empty when nothing was tried or a warning has been shown
+ *         standard error too; a file that cannot be opened is warned of besides. Empty when the
+ *         frame has died; none when nothing was asked or the user gave up
  */
-QString saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
+std::optional<QString> saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
 
 } // namespace DocumentSaving

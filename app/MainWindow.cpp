@@ -232,15 +232,21 @@ void MainWindow::saveMHyperboloidData() {
 }
 
 void MainWindow::saveObjData(SoQtGeneralViewerFrame* obj, bool hypo) {
-    statusBar()->showMessage(DocumentSaving::saveText(obj, hypo, this));
+    showOutcome(DocumentSaving::saveText(obj, hypo, this));
 }
 
 void MainWindow::saveIn(QString fileName, SoQtGeneralViewerFrame* frame, bool isHyperboloid) {
-    statusBar()->showMessage(DocumentSaving::writeText(fileName, *frame, isHyperboloid));
+    showOutcome(DocumentSaving::writeText(fileName, *frame, isHyperboloid));
 }
 
 void MainWindow::saveCurrentImage() {
-    statusBar()->showMessage(DocumentSaving::saveImage(activeFrames.current(), this));
+    showOutcome(DocumentSaving::saveImage(activeFrames.current(), this));
+}
+
+void MainWindow::showOutcome(const std::optional<QString>& outcome) {
+    if (outcome) {
+        statusBar()->showMessage(*outcome);
+    }
 }
 
 bool MainWindow::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerViewer* viewer,

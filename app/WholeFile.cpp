@@ -19,11 +19,15 @@ bool isNoFile(const fs::path& path) {
     return fs::exists(path, error) && !fs::is_regular_file(path, error);
 }
 
-/** The file that is meant by a name, which may not be there yet; empty when links lead nowhere. */
-fs::path behindLinks(fs::path path) {
-    std::error_code error;
+/**
+ * The file that is meant by a name, which may not be there yet.
+ *
+ * @param error why there is none: the links lead nowhere, or there is no name
+ */
+fs::path behindLinks(fs::path path, std::error_code& error) {
     for (int i = 0; fs::is_symlink(path, error); ++i) {
         if (i == mostLinks) {
+            error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
             return {};
         }
         const fs::path target = fs::read_symlink(path, error);
@@ -34,6 +38,8 @@ fs::path behindLinks(fs::path path) {
         }
         path = folder / target;
     }
+    error = path.empty() ? std::make_error_code(std::errc::no_such_file_or_directory)
+                         : std::error_code();
     return path;
 }
 
@@ -52,14 +58,25 @@ WholeFile::WholeFile(const QString& fileName)
     : previousHandler(std::signal(SIGPIPE, SIG_IGN))
     , direct(fileName) {
     const fs::path path(QFile::encodeName(fileName).constData());
+    std::error_code error;
     // QSaveFile would put a file in a device's place, and in that of the second of two links.
     if (isNoFile(path)) {
-        direct.open(QIODevice::WriteOnly);
-        return;
+        if (!direct.open(QIODevice::WriteOnly)) {
+            failure = direct.errorString();
+        }
+    } else if (const fs::path target = behindLinks(path, error); error) {
+        failure = QString::fromStdString(error.message());
+    } else {
+        openBeside(target);
     }
-    replacement.setFileName(QFile::decodeName(behindLinks(path).c_str()));
-    if (!replacement.fileName().isEmpty() && !replacement.open(QIODevice::WriteOnly)) {
-        failure = replacement.errorString();
+}
+
+void WholeFile::openBeside(const std::filesystem::path& target) {
+    replacement.setFileName(QFile::decodeName(target.c_str()));
+    if (!replacement.open(QIODevice::WriteOnly)) {
+        // Of a file that must not be written the toolkit has words of its own.
+        const bool isRefused = access(target.c_str(), W_OK) != 0 && errno != ENOENT;
+        failure = isRefused ? systemError() : replacement.errorString();
     }
 }
 

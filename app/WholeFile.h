@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QString>
+#include <filesystem>
 
 /**
  * A file that comes into being whole or not at all: what is written goes beside it first, and an
@@ -29,16 +30,18 @@ public:
     /** Writes more of the content; after a failure nothing more is written, and commit() fails. */
     void write(const char* text, std::size_t size);
 
-    /** Where the system writes to, for a stream of its own. Its failures are unknown here. */
-    int handle() const;
-
     /** Gives the file its name; false when it could not be written wholly, and nothing changed. */
     bool commit();
 
-    /** In words, why the file could not be opened or written; empty as long as all is well. */
+    /** In the system's words, why the file could not be opened or written; empty as long as all is
+     * well. */
     QString errorString() const { return failure; }
 
 private:
+    /** Opens the file that will take the target's place. */
+    void openBeside(const std::filesystem::path& target);
+    int handle() const;
+
     void (*previousHandler)(int);
     /** What is no file, open in place of the replacement. */
     QFile direct;

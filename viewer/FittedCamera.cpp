@@ -3,6 +3,7 @@
 #include <Inventor/SbXfBox3f.h>
 #include <Inventor/actions/SoGetBoundingBoxAction.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <Inventor/nodes/SoSeparator.h>
 #include <algorithm>
 #include <cmath>
 
@@ -14,9 +15,13 @@ constexpr float slack = 0.001F;
 constexpr float largestDepthRatio = 512;
 
 /** The smallest box along the camera's axes around a scene. */
-SbBox3f boxSeenBy(const SoCamera& camera, SoNode& scene, const SbViewportRegion& region) {
+SbBox3f boxSeenBy(SoCamera& camera, SoNode& scene, const SbViewportRegion& region) {
+    // What is as large as the screen makes it depends on the camera, too.
+    const NodePointer<SoSeparator> seen(new SoSeparator);
+    seen->addChild(&camera);
+    seen->addChild(&scene);
     SoGetBoundingBoxAction action(region);
-    action.apply(&scene);
+    action.apply(seen.get());
     SbXfBox3f box = action.getXfBoundingBox();
     SbMatrix toCamera;
     toCamera.setTranslate(-camera.position.getValue());
@@ -31,7 +36,7 @@ SbBox3f boxSeenBy(const SoCamera& camera, SoNode& scene, const SbViewportRegion&
 NodePointer<SoCamera> FittedCamera::copyOf(const SoCamera& camera, SoNode& scene,
                                            const SbViewportRegion& region) {
     NodePointer<SoCamera> fitted(static_cast<SoCamera*>(camera.copy()));
-    const SbBox3f box = boxSeenBy(camera, scene, region);
+    const SbBox3f box = boxSeenBy(*fitted, scene, region);
     // A camera looks along its negative third axis.
     float nearest = -box.getMax()[2];
     const float farthest = -box.getMin()[2];

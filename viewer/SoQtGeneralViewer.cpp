@@ -60,10 +60,15 @@ void SoQtGeneralViewer::redraw() {
         windowReturn.waitFor(*getGLWidget()->window());
         return;
     }
+    // Uncovered, it is painted by the toolkit.
+    if (cover.covers(getGLWidget()->internalWinId())) {
+        return;
+    }
     fitIntoParent();
     const SbVec2s size = getViewportRegion().getWindowSize();
     if (size == presentedSize) {
         SoQtExaminerViewer::redraw();
+        cover.watch(getGLWidget()->winId());
         return;
     }
     presentedSize = size;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "viewer/WindowCover.h"
 #include "viewer/WindowReturn.h"
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
@@ -36,7 +37,8 @@ protected:
     /**
      * Draws the scene. After a change of size it only prepares the window, and the scene is drawn
      * once, when the toolkit paints the widget in its new size. What cannot be seen is not drawn at
-     * all: a view in a minimised window or document, behind other documents, on another desktop.
+     * all: a view in a minimised window or document, behind other documents, on another desktop,
+     * behind the windows of other programs.
      * It is drawn when it is seen again, and then a spin goes on as if it had never paused.
      */
     void redraw() override;
@@ -58,5 +60,6 @@ private:
 
     SoQtGeneralViewerFrame* frame;
     WindowReturn windowReturn;
+    WindowCover cover;
     SbVec2s presentedSize{0, 0};
 };

@@ -155,6 +155,21 @@ TEST_P(DegenerateParameters, ValidValuesBringBackThePicturesOfBefore) {
     EXPECT_EQ(cameras(opened), camerasBefore) << "the clipping planes, too";
 }
 
+TEST_P(DegenerateParameters, TransparentOnesSpoilNothingEither) {
+    const OpenedWindow opened;
+    opened.call("refreshHyperboloidTransp", Q_ARG(int, 60));
+    apply(opened, startUp);
+    const std::vector<QImage> before = pictures(opened);
+    apply(opened, GetParam());
+    EXPECT_TRUE(waitUntil([&] { return pictures(opened) != before; }));
+    expectFiniteCameras(opened, "redrawn");
+    apply(opened, startUp);
+    EXPECT_TRUE(waitUntil([&] { return pictures(opened) == before; }));
+    apply(opened, GetParam());
+    useEveryView(opened);
+    expectFiniteCameras(opened, "used");
+}
+
 TEST_P(DegenerateParameters, ViewAllShowsEverythingAgainAfterwards) {
     const OpenedWindow opened;
     apply(opened, startUp);

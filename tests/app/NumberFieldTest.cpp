@@ -141,6 +141,21 @@ TEST_P(NumberFieldTest, EnterOnARefusedTextGoesNoFurtherAndSaysWhy) {
     QToolTip::hideText();
 }
 
+TEST_P(NumberFieldTest, TheTipIsSeenOnceTheMouseButtonThatLeftTheFieldIsUpAgain) {
+    type(*decimal, "200");
+    const QPoint other = whole->mapTo(&window, whole->rect().center());
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, other);
+    EXPECT_TRUE(whole->hasFocus());
+    EXPECT_EQ(decimal->text(), shown(1.37));
+    constexpr int longerThanTheTipTakes = 200;
+    QTest::qWait(longerThanTheTipTakes);
+    EXPECT_FALSE(QToolTip::isVisible()) << "letting go would hide it";
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, other);
+    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
+    EXPECT_TRUE(QToolTip::text().startsWith("\"200\" is not taken"));
+    QToolTip::hideText();
+}
+
 TEST_P(NumberFieldTest, ARefusedTextGivesWayToTheLastValueThatWasSettled) {
     type(*decimal, "12,5");
     QTest::keyClick(decimal, Qt::Key_Return);

@@ -3,15 +3,40 @@
 #include "tests/support/WindowMessages.h"
 
 #include <QGuiApplication>
+#include <QPaintEvent>
 #include <QScreen>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 
 QImage screenshot(const QWidget& window) {
     return QGuiApplication::primaryScreen()->grabWindow(window.winId()).toImage();
 }
+
+/** Remembers what of a widget has been painted. */
+class PaintRecord : public QObject {
+public:
+    explicit PaintRecord(QWidget& widget)
+        : QObject(&widget) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            painted += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+    bool isEmpty() const { return painted.isEmpty(); }
+    /** What has been painted since the last call. */
+    QRegion take() { return std::exchange(painted, QRegion()); }
+
+private:
+    QRegion painted;
+};
 
 /** Has the window system place documents, and waits until they are there. */
 void placeFromOutside(const QList<QMdiSubWindow*>& documents, const std::vector<QRect>& places) {
@@ -31,6 +56,24 @@ void placeFromOutside(const QList<QMdiSubWindow*>& documents, const std::vector<
 }
 
 } // namespace
+
+TEST(Repaint, DocumentIsPaintedWhollyWhereTheWindowSystemHasOnlyMovedOrOnlyResizedIt) {
+    const OpenedWindow opened(QSize(1200, 900));
+    QMdiSubWindow& document = opened.subWindow(opened.hyperboloid(Hyperboloid::USPACE));
+    opened.activate(opened.hyperboloid(Hyperboloid::USPACE));
+    RedrawCounter::settle();
+    PaintRecord record(document);
+    const QRect before = document.geometry();
+    const QRect moved = before.translated(-31, -17);
+    for (const QRect& place : {moved, QRect(moved.topLeft(), before.size() - QSize(43, 29))}) {
+        record.take();
+        placeFromOutside({&document}, {place});
+        const QRegion painted = record.take();
+        document.update();
+        EXPECT_TRUE(waitUntil([&] { return !record.isEmpty(); }));
+        EXPECT_EQ(painted, record.take());
+    }
+}
 
 TEST(Repaint, NothingStaysOfALayoutThatTheWindowSystemTookBack) {
     const OpenedWindow opened(QSize(1200, 900));

@@ -1,6 +1,7 @@
 #include "app/SurfaceConditionText.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 
 namespace {
@@ -21,6 +22,24 @@ TEST(SurfaceConditionTextTest, NamesWhatIsDrawnAndEveryCause) {
               "No surface: K1 = K2");
     EXPECT_EQ(SurfaceConditionText::of({Drawn::point, {Cause::uHatOnThirdAxis}}),
               "Point, not the quadric: Û1 = Û2 = 0 (a cone)");
+    EXPECT_EQ(SurfaceConditionText::of({Drawn::rounded, {Cause::vanishingK}}),
+              "Shaped by rounding, not the quadric: K1·K23·Û1 ≈ K2·K13·Û2 (a cone)");
+    EXPECT_EQ(SurfaceConditionText::of({Drawn::unitHyperboloid, {Cause::zeroSigma}}),
+              "Unit hyperboloid, not the quadric: K1·K23·Û1 + K2·K13·Û2 + 2·K13·K23·Û3 = 0");
+}
+
+TEST(SurfaceConditionTextTest, ExplainsWhatEachSurfaceMeansForWhatIsSeen) {
+    const std::map<Drawn, QString> explanations{
+        {Drawn::unitHyperboloid,
+         "The hyperboloid with semi-axes 1 is drawn in the quadric's place."},
+        {Drawn::rounded, "The quadric is so nearly a cone that rounding decides what is drawn: "
+                         "its size and its colours mean nothing."},
+        {Drawn::point, "The quadric is so nearly a cone that all its vertices are rounded to its "
+                       "centre: their energies are undefined, their colour means nothing."},
+        {Drawn::nothing, "The vertices have no finite coordinates."}};
+    for (const auto& [drawn, text] : explanations) {
+        EXPECT_EQ(SurfaceConditionText::explanation({drawn, {Cause::vanishingK}}), text);
+    }
 }
 
 TEST(SurfaceConditionTextTest, TellsAllSurfacesAndAllCausesApart) {

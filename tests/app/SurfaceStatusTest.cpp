@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QStatusTipEvent>
+#include <QTextDocument>
 #include <gtest/gtest.h>
 
 using namespace ParameterDialogs;
@@ -66,6 +67,19 @@ TEST(SurfaceStatusTest, SaysSoAtOnceWhenCodeSetsTheParameters) {
     const OpenedWindow opened;
     opened.window().refresh_hyperboloids(1, 1.5, 1, 0.5, 0.5, 0, 0, 1, 8, 8, 0.3, 7, 7, 0.02, 0.03);
     EXPECT_TRUE(opened.label("surfaceConditionLabel").startsWith("Point, not the quadric: "));
+}
+
+TEST(SurfaceStatusTest, SaysWhatRoundingHasShapedAndExplainsItInTheTip) {
+    const OpenedWindow opened;
+    opened.window().refresh_hyperboloids(3.63, 86.89, 60.11, 0.14, -10.71, 0, 0, 13.77, 8, 8, 0.3,
+                                         7, 7, 0.02, 0.03);
+    const QString text = "Shaped by rounding, not the quadric: Û1 = Û2 = 0 (a cone)";
+    EXPECT_EQ(opened.label("surfaceConditionLabel"), text);
+    QTextDocument tip;
+    tip.setHtml(opened.window().findChild<QLabel*>("surfaceConditionLabel")->toolTip());
+    EXPECT_EQ(tip.toPlainText(),
+              text + "\nThe quadric is so nearly a cone that rounding decides what is drawn: its "
+                     "size and its colours mean nothing.");
 }
 
 TEST(SurfaceStatusTest, LeavesTheWindowAsSmallAsItCanBe) {

@@ -40,23 +40,35 @@ struct Colors {
     }
 };
 
+/** By the coordinate of X space along which it lies; at the start it is the second. */
+enum class Quadric { alongFirstAxis, alongSecondAxis, unitHyperboloid };
+
 /** The surface of one space by itself, in the flat colours of its vertices, in a window. */
 class BareSurface {
 public:
-    /** @param axis the coordinate of X space along which the surface lies: 0, or 1 as at the start
-     */
-    BareSurface(int space, int axis, int percent)
+    BareSurface(int space, Quadric quadric, int percent)
         : frame(&opened.hyperboloid(space)) {
-        if (axis == 0) {
-            opened.window().refresh_hyperboloids(1.1, 1.9, 2.3, 0.6, -0.4, 0.9, -0.35, 0.2, 61, 47,
+        if (quadric != Quadric::alongSecondAxis) {
+            const double K13 = quadric == Quadric::unitHyperboloid ? 0 : 0.6;
+            opened.window().refresh_hyperboloids(1.1, 1.9, 2.3, K13, -0.4, 0.9, -0.35, 0.2, 61, 47,
                                                  0.3, 7, 7, 0.02, 0.03);
         }
         opened.subWindow(*frame).showMaximized();
         opened.activate(*frame);
-        opened.call("refreshHyperboloidTransp", Q_ARG(int, percent));
         frame->toggleDrawStyle();
+        setTransparency(percent);
+    }
+
+    void setTransparency(int percent) const {
+        opened.call("refreshHyperboloidTransp", Q_ARG(int, percent));
         branch(phongBranch).removeAllChildren();
         RedrawCounter::settle();
+    }
+
+    /** Shows the surface under the light. */
+    void setPhong() const {
+        frame->toggleDrawStyle();
+        frame->toggleDrawStyle();
     }
 
     /** Turns the camera, away from the symmetries of the surface, and steps back to see it whole.
@@ -170,8 +182,25 @@ const std::array<SbVec3f, 14> directions{
     SbVec3f(0.3F, 0.6F, -0.8F),   SbVec3f(-0.6F, -0.7F, 0.4F),   SbVec3f(-0.5F, 0.3F, -0.7F),
     SbVec3f(0.45F, -0.4F, -0.6F), SbVec3f(-0.35F, -0.6F, -0.45F)};
 
-/** A space, and the axis along which the surface lies. */
-class TransparencyIn : public testing::TestWithParam<std::tuple<int, int>> {
+/** Share of the pixels in which two pictures of one size differ by more than rounding. */
+double differingShare(const QImage& one, const QImage& other) {
+    constexpr int rounding = 5;
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor a = one.pixelColor(x, y);
+            const QColor b = other.pixelColor(x, y);
+            const int difference =
+                std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                          std::abs(a.blue() - b.blue())});
+            count += difference > rounding ? 1 : 0;
+        }
+    }
+    return static_cast<double>(count) / (one.width() * one.height());
+}
+
+/** A space, and what lies in it. */
+class TransparencyIn : public testing::TestWithParam<std::tuple<int, Quadric>> {
 protected:
     static BareSurface shown(int percent) {
         return {std::get<0>(GetParam()), std::get<1>(GetParam()), percent};
@@ -210,5 +239,25 @@ TEST_P(TransparencyIn, OpaqueSurfaceLooksAsTheLibrarysOwnMeshDoes) {
     EXPECT_EQ(ViewDriver(*surface.frame).grab(), ours);
 }
 
+TEST_P(TransparencyIn, HardlyTransparentSurfaceIsLitLikeAnOpaqueOne) {
+    const BareSurface surface = shown(0);
+    surface.setPhong();
+    for (const SbVec3f& direction : {directions[6], directions[10]}) {
+        surface.setTransparency(0);
+        surface.lookFrom(direction);
+        const QImage opaque = ViewDriver(*surface.frame).grab();
+        surface.setTransparency(1);
+        const QImage transparent = ViewDriver(*surface.frame).grab();
+        EXPECT_NE(transparent, opaque);
+        constexpr double edges = 0.01;
+        EXPECT_LT(differingShare(transparent, opaque), edges);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(EverySpace, TransparencyIn,
-                         testing::Combine(testing::Values(0, 1, 2), testing::Values(0, 1)));
+                         testing::Combine(testing::Values(0, 1, 2),
+                                          testing::Values(Quadric::alongFirstAxis,
+                                                          Quadric::alongSecondAxis)));
+
+INSTANTIATE_TEST_SUITE_P(InTheQuadricsPlace, TransparencyIn,
+                         testing::Values(std::tuple(0, Quadric::unitHyperboloid)));

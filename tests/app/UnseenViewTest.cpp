@@ -1,3 +1,4 @@
+#include "tests/support/ForeignWindow.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/RedrawCounter.h"
 #include "viewer/SoQtGeneralViewer.h"
@@ -19,6 +20,11 @@ public:
 
     HyperboloidFrame& frame() const { return opened.hyperboloid(Hyperboloid::XSPACE); }
     QMdiSubWindow& document() const { return opened.subWindow(frame()); }
+    /** Where the view is on the screen. */
+    QRect place() const {
+        const QWidget& view = ViewDriver(frame()).widget();
+        return {view.mapToGlobal(QPoint(0, 0)), view.size()};
+    }
 
     /** Whether the view is drawn again and again. */
     bool goesOn() const {
@@ -97,6 +103,50 @@ TEST(UnseenView, SpinGoesOnAsLongAsACornerIsSeen) {
     EXPECT_TRUE(spinning.goesOn());
     other.setGeometry(place.adjusted(-beyond, -beyond, beyond, beyond));
     spinning.expectPauses();
+}
+
+TEST(UnseenView, SpinPausesWhileAnotherProgramsWindowCoversTheMainWindow) {
+    SpinningView spinning;
+    {
+        const ForeignWindow other(spinning.opened.window().frameGeometry());
+        spinning.expectPauses();
+    }
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, SpinGoesOnAsLongAsAnotherProgramsWindowLeavesACornerOfItsView) {
+    SpinningView spinning;
+    const QRect place = spinning.place();
+    constexpr int corner = 7;
+    {
+        const ForeignWindow other(place.adjusted(corner, corner, 0, 0));
+        EXPECT_TRUE(spinning.goesOn());
+        const ForeignWindow another(QRect(place.topLeft(), QSize(2 * corner, 2 * corner)));
+        EXPECT_TRUE(spinning.goesOn());
+        const ForeignWindow wide(QRect(place.topLeft(), QSize(place.width(), corner)));
+        const ForeignWindow high(QRect(place.topLeft(), QSize(corner, place.height())));
+        spinning.expectPauses();
+    }
+    EXPECT_TRUE(spinning.goesOn());
+}
+
+TEST(UnseenView, ChangeOfACoveredViewIsDrawnOnceWhenItIsUncovered) {
+    SpinningView spinning;
+    SoQtGeneralViewer& viewer = *spinning.frame().getViewer();
+    {
+        const ForeignWindow other(spinning.place());
+        spinning.expectPauses();
+        viewer.stopAnimating();
+        spinning.frame().toggleDrawStyle();
+        RedrawCounter::settle();
+        viewer.render();
+        EXPECT_EQ(spinning.counter.take(), 0);
+    }
+    EXPECT_TRUE(waitUntil([&] { return spinning.counter.soFar() > 0; }));
+    EXPECT_EQ(spinning.counter.take(), 1);
+    const QImage uncovered = ViewDriver(spinning.frame()).grab();
+    viewer.render();
+    EXPECT_EQ(ViewDriver(spinning.frame()).grab(), uncovered);
 }
 
 TEST(UnseenView, ChangeOfAnUnseenViewIsShownWhenItIsSeenAgain) {

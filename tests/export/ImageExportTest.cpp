@@ -10,6 +10,9 @@
 
 #include <Inventor/C/glue/gl.h>
 #include <Inventor/SoOffscreenRenderer.h>
+#include <Inventor/actions/SoGetBoundingBoxAction.h>
+#include <Inventor/elements/SoViewportRegionElement.h>
+#include <Inventor/nodes/SoCallback.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QAbstractButton>
 #include <QDir>
@@ -140,6 +143,34 @@ TEST_F(ImageExportTest, WithoutACurrentContextThereIsNoneAfterwards) {
     EXPECT_EQ(QOpenGLContext::currentContext(), nullptr);
 }
 
+TEST_F(ImageExportTest, PlanesEncloseTheSceneAsLargeAsItIsOnTheScreen) {
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    std::vector<SbVec2s> measuredFor;
+    auto* measure = new SoCallback;
+    measure->setCallback(
+        [](void* sizes, SoAction* action) {
+            if (action->isOfType(SoGetBoundingBoxAction::getClassTypeId())) {
+                static_cast<std::vector<SbVec2s>*>(sizes)->push_back(
+                    SoViewportRegionElement::get(action->getState()).getViewportSizePixels());
+            }
+        },
+        &measuredFor);
+    u.getSceneRoot()->addChild(measure);
+    settleRedraws();
+    measuredFor.clear();
+    u.getSceneRoot()->touch();
+    std::FILE* file = std::fopen(path().toLocal8Bit().constData(), "w");
+    EXPECT_TRUE(opened.window().printToPostScript(u.getSceneRoot(), file, u.getViewer(), printer));
+    std::fclose(file);
+    const SbVec2s onScreen = u.getViewer()->getViewportRegion().getViewportSizePixels();
+    EXPECT_NE(onScreen[0], onScreen[1]);
+    EXPECT_FALSE(measuredFor.empty());
+    for (const SbVec2s& size : measuredFor) {
+        EXPECT_EQ(size, onScreen);
+    }
+    u.getSceneRoot()->removeChild(measure);
+}
+
 TEST_F(ImageExportTest, PictureOfLessThanAPixelFailsAndWritesNothing) {
     std::FILE* file = std::fopen(path().toLocal8Bit().constData(), "w");
     EXPECT_FALSE(opened.window().printToPostScript(opened.hyperboloid(0).getSceneRoot(), file,
@@ -217,6 +248,7 @@ TEST_F(ImageExportTest, ContextThatCannotBeMadeLeavesTheCurrentOne) {
 
 TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
     testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {
             FileDialogs::saveAs(dialog, folder.filePath("missing/view.eps"));
@@ -228,14 +260,20 @@ TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
         })
         .during([&] { opened.action("saveImageAct").trigger(); });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(status(),
+              "Not saved: " + folder.filePath("missing/view.eps") + " (No such file or directory)");
+    EXPECT_EQ(said, status().toStdString() + "\n");
 }
 
 TEST_F(ImageExportTest, CancelledDialogWritesNothing) {
     testing::internal::CaptureStdout();
+    opened.window().statusBar()->showMessage("Saved before");
     DialogDriver().then<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); }).during([&] {
         opened.action("saveImageAct").trigger();
     });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(status(), "Saved before");
 }
 
 TEST(ImageExportWithoutDocuments, IsRefusedWithAWarning) {

@@ -3,7 +3,10 @@
 
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/nodes/SoCamera.h>
+#include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoLightModel.h>
+#include <Inventor/nodes/SoPointSet.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QPainter>
 
@@ -144,6 +147,33 @@ TEST_F(PictureTest, LinesAreAsWideInPrintAsOnTheScreen) {
     };
     const double onScreen = light(screenOf(u));
     EXPECT_NEAR(light(printOf(u)), onScreen, 0.1 * onScreen);
+}
+
+TEST_F(PictureTest, PointsAreAsLargeInPrintAsOnTheScreen) {
+    SoQtGeneralViewerFrame& helix = opened.firstHelix();
+    resizeToWholeInches(helix, 5, 4);
+    SoSeparator& root = *helix.getSceneRoot();
+    root.removeAllChildren();
+    auto* unlit = new SoLightModel;
+    unlit->model = SoLightModel::BASE_COLOR;
+    root.addChild(unlit);
+    auto* places = new SoCoordinate3;
+    constexpr int points = 337;
+    for (int i = 0; i < points; ++i) {
+        const auto turn = static_cast<float>(i);
+        places->point.set1Value(i, SbVec3f(std::sin(turn), std::cos(1.7F * turn), 0) * 0.1F);
+    }
+    root.addChild(places);
+    root.addChild(new SoPointSet);
+    helix.getViewer()->viewAll();
+    QImage black(1, 1, QImage::Format_RGB32);
+    black.fill(Qt::black);
+    const auto light = [&](const QImage& image) {
+        return meanDifference(withoutCross(image, Qt::black), black.scaled(image.size()));
+    };
+    const double onScreen = light(screenOf(helix));
+    EXPECT_GT(onScreen, 0.05);
+    EXPECT_NEAR(light(printOf(helix)), onScreen, 0.25 * onScreen);
 }
 
 TEST_F(PictureTest, PictureFollowsTheTurnedCameraAndThePerspective) {

@@ -118,6 +118,20 @@ TEST_F(Saving, CancelledDialogWritesNothing) {
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
+TEST_F(Saving, CancelledDialogLeavesWhatTheStatusBarSays) {
+    opened.window().refresh_hyperboloids(1, 1.5, 1, 0, 0.5, 1, 0, 0, 8, 8, 0.3, 7, 7, 0.02, 0.03);
+    save("saveUAct", folder.filePath("first.txt"));
+    const QString condition = opened.label("surfaceConditionLabel");
+    ASSERT_NE(condition, "");
+    for (const char* action : {"saveXAct", "saveMAct"}) {
+        DialogDriver().then<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); }).during([&] {
+            opened.action(action).trigger();
+        });
+        EXPECT_EQ(status(), "Saved " + folder.filePath("first.txt"));
+        EXPECT_EQ(opened.label("surfaceConditionLabel"), condition);
+    }
+}
+
 TEST_F(Saving, HelixNeedsAHelixFrame) {
     opened.activate(opened.hyperboloid(0));
     DialogDriver()

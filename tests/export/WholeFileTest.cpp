@@ -167,10 +167,17 @@ TEST_F(WholeFileTest, LinksStayAndTheirTargetIsWritten) {
 TEST_F(WholeFileTest, LinksThatLeadNowhereCannotBeOpened) {
     QFile::link("loop", path("loop"));
     QFile::link("missing/file", path("lost"));
-    for (const char* name : {"loop", "lost", "missing/file", ""}) {
-        WholeFile file(path(name));
-        EXPECT_FALSE(file.isOpen()) << name;
-        EXPECT_FALSE(file.isWritableInPlace()) << name;
+    const QString nowhere = "No such file or directory";
+    const std::vector<std::pair<QString, QString>> namesAndReasons{
+        {path("loop"), "Too many levels of symbolic links"},
+        {path("lost"), nowhere},
+        {path("missing/file"), nowhere},
+        {"", nowhere}};
+    for (const auto& [name, reason] : namesAndReasons) {
+        const WholeFile file(name);
+        EXPECT_FALSE(file.isOpen()) << name.toStdString();
+        EXPECT_FALSE(file.isWritableInPlace()) << name.toStdString();
+        EXPECT_EQ(file.errorString(), reason) << name.toStdString();
     }
     EXPECT_EQ(names(), QStringList({"loop", "lost"}));
 }
@@ -213,6 +220,7 @@ TEST_F(WholeFileTest, FolderCannotBeOpened) {
     WholeFile file(folder.path());
     EXPECT_FALSE(file.isOpen());
     EXPECT_FALSE(file.isWritableInPlace());
+    EXPECT_EQ(file.errorString(), "Is a directory");
 }
 
 TEST_F(WholeFileTest, ReadOnlyFileOrFolderStaysAsItIs) {
@@ -225,9 +233,11 @@ TEST_F(WholeFileTest, ReadOnlyFileOrFolderStaysAsItIs) {
         const WholeFile readOnly(path("file"));
         EXPECT_FALSE(readOnly.isOpen());
         EXPECT_FALSE(readOnly.isWritableInPlace());
+        EXPECT_EQ(readOnly.errorString(), "Permission denied");
         const WholeFile fresh(path("new"));
         EXPECT_FALSE(fresh.isOpen());
         EXPECT_FALSE(fresh.isWritableInPlace());
+        EXPECT_EQ(fresh.errorString(), "Permission denied");
         // Nothing can be put beside it.
         const WholeFile writable(path("writable"));
         EXPECT_FALSE(writable.isOpen());

@@ -1,8 +1,11 @@
 #include "viewer/FittedCamera.h"
 
+#include "tests/support/RedrawCounter.h"
 #include "tests/viewer/ShownFrame.h"
 
 #include <Inventor/nodes/SoCamera.h>
+#include <Inventor/nodes/SoFont.h>
+#include <Inventor/nodes/SoText2.h>
 #include <Inventor/nodes/SoTransform.h>
 
 namespace {
@@ -51,6 +54,26 @@ TEST_F(FittedCameraTest, OrthographicOneEnclosesTheSceneAsTheViewerDoes) {
     expectAsTheViewerDraws();
     // Without a perspective, what is behind the eye is seen too.
     transform->translation.setValue(3, 5, 100);
+    expectAsTheViewerDraws();
+}
+
+TEST_F(FittedCameraTest, WhatIsAsLargeAsTheScreenMakesItIsEnclosedAsTheViewerDoes) {
+    shown.get().resize(713, 397);
+    EXPECT_TRUE(waitUntil([&] {
+        const SbVec2s size = viewer().getViewportRegion().getWindowSize();
+        return size[0] > size[1] + 100;
+    }));
+    RedrawCounter::settle();
+    auto* font = new SoFont;
+    font->size = 97;
+    shown.get().documentScene().getRoot()->addChild(font);
+    auto* text = new SoText2;
+    text->string = "Text of its own size";
+    shown.get().documentScene().getRoot()->addChild(text);
+    // Otherwise a pixel is as large in a view as high as this is wide.
+    viewer().getCamera()->viewportMapping = SoCamera::LEAVE_ALONE;
+    // What faces the screen is flat only where the camera looks along an axis.
+    viewer().getCamera()->orientation.setValue(SbVec3f(0.3F, 1, 0.1F), 0.83F);
     expectAsTheViewerDraws();
 }
 
