@@ -11,6 +11,7 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <QCoreApplication>
 #include <QPointer>
+#include <QStatusBar>
 #include <cstdio>
 #include <iostream>
 #include <memory>
@@ -148,4 +149,10 @@ std::optional<QString> DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, 
         return notSaved(fileName, file.errorString());
     }
     return writeImage(fileName, file, *chosen);
+}
+
+void DocumentSaving::show(const std::optional<QString>& outcome, QStatusBar& bar) {
+    if (outcome) {
+        bar.showMessage(*outcome);
+    }
 }

@@ -3,6 +3,7 @@
 #include <QString>
 #include <optional>
 
+class QStatusBar;
 class QWidget;
 class SoQtGeneralViewerFrame;
 
@@ -41,5 +42,8 @@ QString writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame, 
  *         frame has died; none when nothing was asked or the user gave up
  */
 std::optional<QString> saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
+
+/** Shows in a status bar what to tell the user; with nothing to tell, what stands there stays. */
+void show(const std::optional<QString>& outcome, QStatusBar& bar);
 
 } // namespace DocumentSaving

@@ -232,21 +232,15 @@ void MainWindow::saveMHyperboloidData() {
 }
 
 void MainWindow::saveObjData(SoQtGeneralViewerFrame* obj, bool hypo) {
-    showOutcome(DocumentSaving::saveText(obj, hypo, this));
+    DocumentSaving::show(DocumentSaving::saveText(obj, hypo, this), *statusBar());
 }
 
 void MainWindow::saveIn(QString fileName, SoQtGeneralViewerFrame* frame, bool isHyperboloid) {
-    showOutcome(DocumentSaving::writeText(fileName, *frame, isHyperboloid));
+    DocumentSaving::show(DocumentSaving::writeText(fileName, *frame, isHyperboloid), *statusBar());
 }
 
 void MainWindow::saveCurrentImage() {
-    showOutcome(DocumentSaving::saveImage(activeFrames.current(), this));
-}
-
-void MainWindow::showOutcome(const std::optional<QString>& outcome) {
-    if (outcome) {
-        statusBar()->showMessage(*outcome);
-    }
+    DocumentSaving::show(DocumentSaving::saveImage(activeFrames.current(), this), *statusBar());
 }
 
 bool MainWindow::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerViewer* viewer,

@@ -10,7 +10,6 @@
 #include <QMainWindow>
 #include <cstdio>
 #include <memory>
-#include <optional>
 
 class HelixFrame;
 class HyperboloidFrame;
@@ -119,8 +118,6 @@ private:
     void createStatusBar();
     void readSettings();
     void writeSettings();
-    /** Says in the status bar what came of saving, if anything did. */
-    void showOutcome(const std::optional<QString>& outcome);
     QMdiSubWindow* findMdiChild(const QString& title);
     SoQtGeneralViewerFrame* activeMdiChild();
 

@@ -165,9 +165,6 @@ TEST_P(DegenerateParameters, TransparentOnesSpoilNothingEither) {
     expectFiniteCameras(opened, "redrawn");
     apply(opened, startUp);
     EXPECT_TRUE(waitUntil([&] { return pictures(opened) == before; }));
-    apply(opened, GetParam());
-    useEveryView(opened);
-    expectFiniteCameras(opened, "used");
 }
 
 TEST_P(DegenerateParameters, ViewAllShowsEverythingAgainAfterwards) {
