@@ -2,7 +2,6 @@
 
 #include "tests/support/OpenedWindow.h"
 
-#include <Inventor/SbVec2s.h>
 #include <QByteArray>
 #include <QImage>
 #include <QTemporaryDir>
@@ -23,8 +22,6 @@ protected:
 
     /** The saved file as Ghostscript draws it for the printer. */
     QImage drawn() const;
-
-    SbVec2s expectedSize(const SoQtGeneralViewerFrame& frame) const;
 
     /** Gives a view a size on the screen of whole inches, and one pixel at most. */
     void resizeToWholeInches(SoQtGeneralViewerFrame& frame, int width, int height) const;

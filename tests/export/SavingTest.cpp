@@ -67,18 +67,63 @@ TEST_F(Saving, ActiveHelixIsWritten) {
     EXPECT_EQ(contentOf(path), plainText(opened.firstHelix()));
 }
 
+TEST_F(Saving, TheHelixThatWasActiveLastIsWrittenAlsoWhenNoDocumentIsActive) {
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    opened.action("newAct").trigger();
+    HelixFrame& first = *opened.helices().front();
+    HelixFrame& second = *opened.helices().back();
+    opened.tie(first, u);
+    u.moveSphere(HyperboloidFrame::DOWN);
+    opened.tie(second, u);
+    u.moveSphere(HyperboloidFrame::RIGHT);
+    ASSERT_NE(plainText(first), plainText(second));
+    for (HelixFrame* active : {&second, &first}) {
+        for (const bool leftAlone : {false, true}) {
+            opened.activate(*active);
+            if (leftAlone) {
+                opened.area().setActiveSubWindow(nullptr);
+                ASSERT_EQ(opened.area().activeSubWindow(), nullptr);
+            }
+            const QString path = folder.filePath(active->windowTitle() + (leftAlone ? "b" : "a"));
+            save("saveHelixAct", path);
+            EXPECT_EQ(contentOf(path + ".txt"), plainText(*active));
+        }
+    }
+}
+
+TEST_F(Saving, HyperboloidsAreWrittenWhenNoDocumentIsActive) {
+    opened.area().setActiveSubWindow(nullptr);
+    const QString path = folder.filePath("m.txt");
+    save("saveMAct", path);
+    EXPECT_EQ(contentOf(path), plainText(opened.hyperboloid(Hyperboloid::MSPACE)));
+}
+
 TEST_F(Saving, DialogAsksForATextFile) {
     DialogDriver()
-        .then<QFileDialog>([](QFileDialog& dialog) {
+        .then<QFileDialog>([&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.fileMode(), QFileDialog::AnyFile);
             EXPECT_EQ(dialog.nameFilters(), QStringList("Text (*.txt)"));
             EXPECT_EQ(dialog.viewMode(), QFileDialog::Detail);
             EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
             EXPECT_EQ(dialog.defaultSuffix(), "txt");
+            EXPECT_EQ(dialog.parent(), &opened.window());
+            EXPECT_EQ(dialog.windowTitle(), "Save As") << "the toolkit's own";
             dialog.reject();
         })
         .during([&] { opened.action("saveUAct").trigger(); });
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(Saving, DialogsOpenInTheWorkingFolderAndProposeNoName) {
+    for (const char* action : {"saveXAct", "saveImageAct"}) {
+        DialogDriver()
+            .then<QFileDialog>([&](QFileDialog& dialog) {
+                EXPECT_EQ(dialog.directory(), QDir::current()) << action;
+                EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "") << action;
+                dialog.reject();
+            })
+            .during([&] { opened.action(action).trigger(); });
+    }
 }
 
 TEST_F(Saving, NameWithoutSuffixGetsOne) {
