@@ -17,19 +17,6 @@ constexpr const char* mainWindowTitle = "Visualisation of Torvane";
 constexpr int menuBarHeight = 22;
 constexpr int statusBarHeight = 22;
 
-/** Looks at something again and again until it holds. */
-bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition()) {
-        if (timer.elapsed() > patience) {
-            return false;
-        }
-        QThread::msleep(lookInterval);
-    }
-    return true;
-}
-
 bool isSaturated(QRgb pixel) {
     const QColor color(pixel);
     constexpr int strong = 150;
@@ -113,6 +100,18 @@ std::optional<QString> RunningViewer::xdotool(const QStringList& arguments) cons
         return std::nullopt;
     }
     return tool.readAllStandardOutput();
+}
+
+bool RunningViewer::waitUntil(const std::function<bool()>& condition) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > patience) {
+            return false;
+        }
+        QThread::msleep(lookInterval);
+    }
+    return true;
 }
 
 bool RunningViewer::waitForWindowFoundBy(const QStringList& criterion) const {

@@ -33,6 +33,9 @@ public:
     /** The identifier of the main window, as the window system and xdotool know it. */
     QString windowId() const;
 
+    /** Looks at something again and again until it holds; false when it does not in time. */
+    static bool waitUntil(const std::function<bool()>& condition);
+
     /** Waits until the main window is on the screen. */
     bool waitForWindow() const;
     /** Waits until any window of the program is on the screen: the splash comes first. */
