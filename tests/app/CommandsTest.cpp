@@ -196,6 +196,7 @@ TEST_F(CommandsTest, ExitClosesEveryWindowAndStaysOpenWithTheOneThatRefuses) {
     EXPECT_TRUE(refusing.isVisible());
     refusing.hide();
     QSettings("Trolltech", "MDI Viewer").clear();
+    window.show();
     window.resize(593, 417);
     window.findChild<QAction*>("exitAct")->trigger();
     EXPECT_FALSE(window.isVisible());
