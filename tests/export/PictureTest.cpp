@@ -79,6 +79,8 @@ QImage pixelsIn(const QByteArray& eps, const QSize& size) {
 
 class PictureTest : public PrintedViews {
 protected:
+    PictureTest() { closeAfterwards(); }
+
     /** The view on the screen, drawn and before all others. */
     QImage screenOf(SoQtGeneralViewerFrame& frame) const {
         opened.activate(frame);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LastingWindow.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -12,8 +12,11 @@
 constexpr int printer = 300;
 
 /** The real main window with its views, and a folder for pictures of them. */
-class PrintedViews : public testing::Test {
+class PrintedViews : public LastingWindow {
 protected:
+    PrintedViews()
+        : LastingWindow(QSize(1200, 950)) {}
+
     /** Saves a view through the real dialog; returns what the program wrote to standard output. */
     std::string save(SoQtGeneralViewerFrame& frame, const QString& path);
 
@@ -28,6 +31,5 @@ protected:
 
     static void settleRedraws();
 
-    OpenedWindow opened{QSize(1200, 950)};
     QTemporaryDir folder;
 };

@@ -2,7 +2,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
 #include "tests/support/LargestFileSize.h"
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LastingWindow.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,8 +34,11 @@ QByteArray plainText(const HelixFrame& frame) {
     return QByteArray::fromStdString(text.str());
 }
 
-class Saving : public testing::Test {
+class Saving : public LastingWindow {
 protected:
+    Saving()
+        : LastingWindow(QSize(1000, 800)) {}
+
     /** Triggers a save action and gives the file dialog a path. */
     void save(const char* action, const QString& path) {
         DialogDriver()
@@ -45,7 +48,6 @@ protected:
 
     QString status() const { return opened.window().statusBar()->currentMessage(); }
 
-    OpenedWindow opened;
     QTemporaryDir folder;
 };
 
@@ -208,6 +210,7 @@ TEST_F(Saving, OlderTextStaysWhenTheDiskIsFullAndTheUserIsTold) {
 }
 
 TEST_F(Saving, HelixThatIsClosedWhileTheUserChoosesLeavesNoFile) {
+    closeAfterwards();
     opened.activate(opened.firstHelix());
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {
