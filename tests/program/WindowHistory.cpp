@@ -2,19 +2,28 @@
 
 #include <X11/Xlib.h>
 
+struct WindowHistory::Connection {
+    std::unique_ptr<Display, int (*)(Display*)> display;
+};
+
+WindowHistory::~WindowHistory() = default;
+
 WindowHistory::WindowHistory(const QString& display)
-    : connection(XOpenDisplay(display.toLocal8Bit().constData()), XCloseDisplay) {
-    if (connection == nullptr) {
+    : connection(std::make_unique<Connection>(
+          Connection{{XOpenDisplay(display.toLocal8Bit().constData()), XCloseDisplay}})) {
+    Display* opened = connection->display.get();
+    if (opened == nullptr) {
         return;
     }
-    XSelectInput(connection.get(), XDefaultRootWindow(connection.get()), SubstructureNotifyMask);
-    XSync(connection.get(), False);
+    XSelectInput(opened, XDefaultRootWindow(opened), SubstructureNotifyMask);
+    XSync(opened, False);
 }
 
 const std::vector<WindowHistory::Change>& WindowHistory::changes() {
-    while (connection != nullptr && XPending(connection.get()) > 0) {
+    Display* opened = connection->display.get();
+    while (opened != nullptr && XPending(opened) > 0) {
         XEvent event;
-        XNextEvent(connection.get(), &event);
+        XNextEvent(opened, &event);
         if (event.xany.send_event != False) {
             // A program that hides its window tells the window manager so once more.
             continue;

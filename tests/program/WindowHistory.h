@@ -6,8 +6,6 @@
 #include <memory>
 #include <vector>
 
-struct _XDisplay;
-
 /**
  * What comes on a display and leaves it, from the start of this object on; nothing without a
  * connection to the display.
@@ -15,6 +13,9 @@ struct _XDisplay;
 class WindowHistory {
 public:
     explicit WindowHistory(const QString& display);
+    ~WindowHistory();
+    WindowHistory(const WindowHistory&) = delete;
+    WindowHistory& operator=(const WindowHistory&) = delete;
 
     struct Change {
         unsigned long window;
@@ -27,7 +28,9 @@ public:
     const std::vector<Change>& changes();
 
 private:
-    std::unique_ptr<_XDisplay, int (*)(_XDisplay*)> connection;
+    struct Connection;
+
+    std::unique_ptr<Connection> connection;
     std::map<unsigned long, QSize> sizes;
     std::vector<Change> all;
 };
