@@ -179,8 +179,8 @@ QLayout* HyperboloidParameterDialog::createColumns() {
 }
 
 QLayout* HyperboloidParameterDialog::createButtons() {
-    auto* cancel = new QPushButton("Cancel", this);
-    auto* ok = new QPushButton("Ok", this);
+    auto* cancel = new QPushButton(QCoreApplication::translate("QMainWindow", "Cancel"), this);
+    auto* ok = new QPushButton(QCoreApplication::translate("QMainWindow", "Ok"), this);
     ok->setDefault(true);
     // Clicked, it must not take the focus: a refused text would be gone before it is noticed.
     ok->setFocusPolicy(Qt::TabFocus);

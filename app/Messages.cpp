@@ -25,7 +25,7 @@ void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
     registerTorvaneResources();
     auto* picture = new QLabel;
     picture->setPixmap(QPixmap(picturePath));
-    auto* ok = new QPushButton("Ok");
+    auto* ok = new QPushButton(QCoreApplication::translate("QMainWindow", "Ok"));
     ok->setDefault(true);
     QObject::connect(ok, SIGNAL(clicked()), &box, SLOT(accept()));
 

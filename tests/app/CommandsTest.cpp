@@ -6,11 +6,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QSet>
+#include <QSettings>
 #include <QSignalMapper>
 #include <gtest/gtest.h>
 
@@ -182,6 +184,24 @@ TEST_F(CommandsTest, EverythingButNewAndExitIsDisabledWithoutDocuments) {
          {"closeAct", "closeAllAct", "tileAct", "cascadeAct", "nextAct", "previousAct"}) {
         EXPECT_FALSE(empty.findChild<QAction*>(name)->isEnabled()) << name;
     }
+}
+
+TEST_F(CommandsTest, ExitClosesEveryWindowAndStaysOpenWithTheOneThatRefuses) {
+    class Refusing : public QWidget {
+        void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    } refusing;
+    window.show();
+    refusing.show();
+    window.findChild<QAction*>("exitAct")->trigger();
+    EXPECT_TRUE(refusing.isVisible());
+    refusing.hide();
+    QSettings("Trolltech", "MDI Viewer").clear();
+    window.show();
+    window.resize(593, 417);
+    window.findChild<QAction*>("exitAct")->trigger();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(QSettings("Trolltech", "MDI Viewer").value("size").toSize(), QSize(593, 417));
+    QSettings("Trolltech", "MDI Viewer").clear();
 }
 
 TEST(MainWindowSlots, SlotsStandInTheirOrder) {

@@ -13,6 +13,7 @@
 #include <Inventor/nodes/SoMaterial.h>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScrollBar>
 #include <gtest/gtest.h>
 
 namespace {
@@ -122,6 +123,24 @@ TEST(DocumentsTest, SetUpOpensTheThreeSpacesAndAHelixAndTilesThem) {
             EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()));
         }
     }
+}
+
+TEST(DocumentsTest, WhatLiesBeyondAnEdgeIsReachedByItsScrollBarAndNoOther) {
+    const ShownDocuments shown;
+    for (QMdiSubWindow* subWindow : shown.area.subWindowList()) {
+        subWindow->setGeometry(20, 30, 400, 300);
+    }
+    QMdiSubWindow& document = *shown.area.subWindowList().constFirst();
+    const QScrollBar& below = *shown.area.verticalScrollBar();
+    const QScrollBar& beside = *shown.area.horizontalScrollBar();
+    EXPECT_FALSE(below.isVisible());
+    EXPECT_FALSE(beside.isVisible());
+    document.move(710, 90);
+    EXPECT_TRUE(waitUntil([&] { return beside.isVisible() && !below.isVisible(); }));
+    document.move(170, 630);
+    EXPECT_TRUE(waitUntil([&] { return below.isVisible() && !beside.isVisible(); }));
+    document.move(170, 90);
+    EXPECT_TRUE(waitUntil([&] { return !below.isVisible() && !beside.isVisible(); }));
 }
 
 TEST(DocumentsTest, ANewHelixIsActivatedByWayOfNoDocumentAndTheFrameOfU) {

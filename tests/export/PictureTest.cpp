@@ -15,9 +15,10 @@ namespace {
 constexpr int patchSize = 4;
 
 // How far a print may be from the screen, as a share of how far an empty picture is: thin lines
-// are smoothed on the screen only.
+// are smoothed on the screen only, and count the more the less there is of the surface.
 constexpr double filledTolerance = 0.03;
 constexpr double lineTolerance = 0.15;
+constexpr double seenThroughTolerance = 0.09;
 
 /** Mean difference of two pictures of one size in a channel's steps (0 to 255). */
 double meanDifference(const QImage& one, const QImage& other) {
@@ -81,6 +82,8 @@ QImage pixelsIn(const QByteArray& eps, const QSize& size) {
 
 class PictureTest : public PrintedViews {
 protected:
+    PictureTest() { closeAfterwards(); }
+
     /** The view on the screen, drawn and before all others. */
     QImage screenOf(SoQtGeneralViewerFrame& frame) const {
         opened.activate(frame);
@@ -213,6 +216,23 @@ TEST_F(PictureTest, PictureShowsTransparencyAndBackground) {
     viewer.setBackgroundColor(SbColor(0.2F, 0.3F, 0.4F));
     viewer.setHeadlight(FALSE);
     expectLikeTheScreen(x, "background, no headlight");
+}
+
+TEST_F(PictureTest, SurfacesSeenThroughAreBlendedAsOnTheScreen) {
+    for (const int space : {Hyperboloid::USPACE, Hyperboloid::XSPACE}) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        resizeToWholeInches(frame, 4, 3);
+        lookFrom(*frame.getViewer()->getCamera(), SbRotation(SbVec3f(0.3F, 1, 0.1F), 1.0F));
+        for (const int percent : {23, 47, 81}) {
+            frame.setTransparency(percent, true);
+            for (const auto type : {SoGLRenderAction::BLEND, SoGLRenderAction::NONE}) {
+                frame.getViewer()->setTransparencyType(type);
+                const std::string what = std::to_string(percent) + " % in space " +
+                                         std::to_string(space) + ", type " + std::to_string(type);
+                expectLikeTheScreen(frame, what, seenThroughTolerance);
+            }
+        }
+    }
 }
 
 TEST_F(PictureTest, HeadlightThatIsSwitchedOffShinesOnAsOnTheScreen) {

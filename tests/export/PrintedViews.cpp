@@ -1,6 +1,5 @@
 #include "tests/export/PrintedViews.h"
 
-#include "app/ImageExport.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
 #include "viewer/SoQtGeneralViewer.h"
@@ -34,11 +33,6 @@ QImage PrintedViews::drawn() const {
                                  "-sDEVICE=png16m", resolution, "-sOutputFile=" + picture, path()}),
         0);
     return QImage(picture).convertToFormat(QImage::Format_RGB32);
-}
-
-SbVec2s PrintedViews::expectedSize(const SoQtGeneralViewerFrame& frame) const {
-    return ImageExport::printSize(frame.getViewer()->getViewportRegion().getViewportSizePixels(),
-                                  SoOffscreenRenderer::getScreenPixelsPerInch(), printer);
 }
 
 void PrintedViews::resizeToWholeInches(SoQtGeneralViewerFrame& frame, int width, int height) const {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LastingWindow.h"
 
-#include <Inventor/SbVec2s.h>
 #include <QByteArray>
 #include <QImage>
 #include <QTemporaryDir>
@@ -13,8 +12,11 @@
 constexpr int printer = 300;
 
 /** The real main window with its views, and a folder for pictures of them. */
-class PrintedViews : public testing::Test {
+class PrintedViews : public LastingWindow {
 protected:
+    PrintedViews()
+        : LastingWindow(QSize(1200, 950)) {}
+
     /** Saves a view through the real dialog; returns what the program wrote to standard output. */
     std::string save(SoQtGeneralViewerFrame& frame, const QString& path);
 
@@ -24,13 +26,10 @@ protected:
     /** The saved file as Ghostscript draws it for the printer. */
     QImage drawn() const;
 
-    SbVec2s expectedSize(const SoQtGeneralViewerFrame& frame) const;
-
     /** Gives a view a size on the screen of whole inches, and one pixel at most. */
     void resizeToWholeInches(SoQtGeneralViewerFrame& frame, int width, int height) const;
 
     static void settleRedraws();
 
-    OpenedWindow opened{QSize(1200, 950)};
     QTemporaryDir folder;
 };

@@ -2,7 +2,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileDialogs.h"
 #include "tests/support/LargestFileSize.h"
-#include "tests/support/OpenedWindow.h"
+#include "tests/support/LastingWindow.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,8 +34,11 @@ QByteArray plainText(const HelixFrame& frame) {
     return QByteArray::fromStdString(text.str());
 }
 
-class Saving : public testing::Test {
+class Saving : public LastingWindow {
 protected:
+    Saving()
+        : LastingWindow(QSize(1000, 800)) {}
+
     /** Triggers a save action and gives the file dialog a path. */
     void save(const char* action, const QString& path) {
         DialogDriver()
@@ -45,7 +48,6 @@ protected:
 
     QString status() const { return opened.window().statusBar()->currentMessage(); }
 
-    OpenedWindow opened;
     QTemporaryDir folder;
 };
 
@@ -67,18 +69,63 @@ TEST_F(Saving, ActiveHelixIsWritten) {
     EXPECT_EQ(contentOf(path), plainText(opened.firstHelix()));
 }
 
+TEST_F(Saving, TheHelixThatWasActiveLastIsWrittenAlsoWhenNoDocumentIsActive) {
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    opened.action("newAct").trigger();
+    HelixFrame& first = *opened.helices().front();
+    HelixFrame& second = *opened.helices().back();
+    opened.tie(first, u);
+    u.moveSphere(HyperboloidFrame::DOWN);
+    opened.tie(second, u);
+    u.moveSphere(HyperboloidFrame::RIGHT);
+    ASSERT_NE(plainText(first), plainText(second));
+    for (HelixFrame* active : {&second, &first}) {
+        for (const bool leftAlone : {false, true}) {
+            opened.activate(*active);
+            if (leftAlone) {
+                opened.area().setActiveSubWindow(nullptr);
+                ASSERT_EQ(opened.area().activeSubWindow(), nullptr);
+            }
+            const QString path = folder.filePath(active->windowTitle() + (leftAlone ? "b" : "a"));
+            save("saveHelixAct", path);
+            EXPECT_EQ(contentOf(path + ".txt"), plainText(*active));
+        }
+    }
+}
+
+TEST_F(Saving, HyperboloidsAreWrittenWhenNoDocumentIsActive) {
+    opened.area().setActiveSubWindow(nullptr);
+    const QString path = folder.filePath("m.txt");
+    save("saveMAct", path);
+    EXPECT_EQ(contentOf(path), plainText(opened.hyperboloid(Hyperboloid::MSPACE)));
+}
+
 TEST_F(Saving, DialogAsksForATextFile) {
     DialogDriver()
-        .then<QFileDialog>([](QFileDialog& dialog) {
+        .then<QFileDialog>([&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.fileMode(), QFileDialog::AnyFile);
             EXPECT_EQ(dialog.nameFilters(), QStringList("Text (*.txt)"));
             EXPECT_EQ(dialog.viewMode(), QFileDialog::Detail);
             EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
             EXPECT_EQ(dialog.defaultSuffix(), "txt");
+            EXPECT_EQ(dialog.parent(), &opened.window());
+            EXPECT_EQ(dialog.windowTitle(), "Save As") << "the toolkit's own";
             dialog.reject();
         })
         .during([&] { opened.action("saveUAct").trigger(); });
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(Saving, DialogsOpenInTheWorkingFolderAndProposeNoName) {
+    for (const char* action : {"saveXAct", "saveImageAct"}) {
+        DialogDriver()
+            .then<QFileDialog>([&](QFileDialog& dialog) {
+                EXPECT_EQ(dialog.directory(), QDir::current()) << action;
+                EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "") << action;
+                dialog.reject();
+            })
+            .during([&] { opened.action(action).trigger(); });
+    }
 }
 
 TEST_F(Saving, NameWithoutSuffixGetsOne) {
@@ -177,6 +224,7 @@ TEST_F(Saving, OlderTextStaysWhenTheDiskIsFullAndTheUserIsTold) {
 }
 
 TEST_F(Saving, HelixThatIsClosedWhileTheUserChoosesLeavesNoFile) {
+    closeAfterwards();
     opened.activate(opened.firstHelix());
     DialogDriver()
         .then<QFileDialog>([&](QFileDialog& dialog) {

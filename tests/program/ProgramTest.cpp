@@ -21,16 +21,15 @@ public:
 /** Expects that doing something changes the helix, all three surfaces' views and the status bar. */
 template <typename Action>
 void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
-    const QImage before = viewer.screen();
-    action();
-    const std::pair<const char*, QRect> places[] = {{"helix", viewer.helixView()},
-                                                    {"U", viewer.uView()},
-                                                    {"X", viewer.xView()},
-                                                    {"M", viewer.mView()},
-                                                    {"status bar", viewer.statusBar()}};
-    for (const auto& [name, place] : places) {
-        EXPECT_TRUE(viewer.waitUntilChanged(place, before.copy(place))) << name;
+    const std::vector<QRect> places{viewer.helixView(), viewer.uView(), viewer.xView(),
+                                    viewer.mView(), viewer.statusBar()};
+    std::vector<QImage> before;
+    const QImage seen = viewer.screen();
+    for (const QRect& place : places) {
+        before.push_back(seen.copy(place));
     }
+    action();
+    EXPECT_TRUE(viewer.waitUntilChanged(places, before));
 }
 
 /** Expects that the program ends, and ends well. */

@@ -1,5 +1,6 @@
 #include "tests/program/RunningViewer.h"
 
+#include "tests/support/ScreenPicture.h"
 #include "tests/support/WindowMessages.h"
 
 #include <QDir>
@@ -16,19 +17,6 @@ constexpr int lookInterval = 100;
 constexpr const char* mainWindowTitle = "Visualisation of Torvane";
 constexpr int menuBarHeight = 22;
 constexpr int statusBarHeight = 22;
-
-/** Looks at something again and again until it holds. */
-bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition()) {
-        if (timer.elapsed() > patience) {
-            return false;
-        }
-        QThread::msleep(lookInterval);
-    }
-    return true;
-}
 
 bool isSaturated(QRgb pixel) {
     const QColor color(pixel);
@@ -115,6 +103,18 @@ std::optional<QString> RunningViewer::xdotool(const QStringList& arguments) cons
     return tool.readAllStandardOutput();
 }
 
+bool RunningViewer::waitUntil(const std::function<bool()>& condition) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > patience) {
+            return false;
+        }
+        QThread::msleep(lookInterval);
+    }
+    return true;
+}
+
 bool RunningViewer::waitForWindowFoundBy(const QStringList& criterion) const {
     return waitUntil([&] {
         return xdotool(QStringList{"search", "--onlyvisible"} + criterion).has_value();
@@ -153,21 +153,27 @@ void RunningViewer::key(const QString& name) const {
 }
 
 QImage RunningViewer::screen() const {
-    const QString file = home.filePath("screen.png");
-    QProcess camera;
-    camera.setProcessEnvironment(environmentOn(display));
-    camera.start("import", {"-window", "root", file});
-    camera.waitForFinished();
-    return QImage(file).convertToFormat(QImage::Format_RGB32);
+    return screenPicture(display.toStdString());
 }
 
 bool RunningViewer::waitUntilChanged(const QRect& part, const QImage& before) const {
-    QImage last;
+    return waitUntilChanged(std::vector<QRect>{part}, std::vector<QImage>{before});
+}
+
+bool RunningViewer::waitUntilChanged(const std::vector<QRect>& parts,
+                                     const std::vector<QImage>& before) const {
+    std::vector<QImage> last;
     return waitUntil([&] {
-        const QImage now = screen(part);
-        const bool atRest = now == last;
-        last = now;
-        return atRest && now != before;
+        const QImage seen = screen();
+        std::vector<QImage> now;
+        bool haveChanged = true;
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            now.push_back(seen.copy(parts[i]));
+            haveChanged = haveChanged && now[i] != before[i];
+        }
+        const bool areAtRest = now == last;
+        last = std::move(now);
+        return areAtRest && haveChanged;
     });
 }
 

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <functional>
 #include <optional>
+#include <vector>
 
 /** The real program on the display, driven from outside: by xdotool, seen by screenshots. */
 class RunningViewer {
@@ -33,6 +34,9 @@ public:
     /** The identifier of the main window, as the window system and xdotool know it. */
     QString windowId() const;
 
+    /** Looks at something again and again until it holds; false when it does not in time. */
+    static bool waitUntil(const std::function<bool()>& condition);
+
     /** Waits until the main window is on the screen. */
     bool waitForWindow() const;
     /** Waits until any window of the program is on the screen: the splash comes first. */
@@ -51,6 +55,8 @@ public:
     QImage screen(const QRect& part) const { return screen().copy(part); }
     /** Waits until a part of the screen differs from a picture and is at rest. */
     bool waitUntilChanged(const QRect& part, const QImage& before) const;
+    /** The same of several parts, and at once. */
+    bool waitUntilChanged(const std::vector<QRect>& parts, const std::vector<QImage>& before) const;
     /** Waits until a part of the screen differs from a picture, moving or not. */
     bool waitUntilUnlike(const QRect& part, const QImage& picture) const;
     /** Waits until a part of the screen is like a picture again. */
