@@ -1,7 +1,9 @@
 // What becomes of the helices when the parameter dialog gives the surfaces another grid.
 
+#include "helix/HelixNames.h"
 #include "tests/app/ParameterDialogs.h"
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
 #include "tests/support/Spheres.h"
 
@@ -53,6 +55,13 @@ TEST(GridChangeTest, FinerGridKeepsEveryHelixAtItsRelativePlace) {
     for (int space = 0; space < 3; ++space) {
         EXPECT_EQ(opened.hyperboloid(space).GetPreviousHelix(), &first) << "space " << space;
     }
+}
+
+TEST(GridChangeTest, EverySurfaceMovesItsSphereAndRefreshesTheHelixOnce) {
+    const OpenedWindow opened;
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
+    changeGrid(opened, 30, 20);
+    EXPECT_EQ(drawings.take(), 3);
 }
 
 TEST(GridChangeTest, NoHelixIsTiedAfterwardsWhenNoneWasBefore) {

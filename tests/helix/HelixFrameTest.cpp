@@ -39,6 +39,22 @@ public:
     static int pointCount(const SoSeparator& part) { return static_cast<int>(points(part).size()); }
 };
 
+/** An owner that looks at a helix as soon as it hears of another title. */
+class LookingOwner : public FrameOwner {
+public:
+    void SayHypoImDead(SbName /*name*/) override {}
+    void viewerTitleChanged() override {
+        title = frame->viewerTitle();
+        line = frame->getHelix().getLineVertices();
+        torsion = frame->getHelix().getTorsion();
+    }
+
+    const HelixFrame* frame = nullptr;
+    QString title;
+    Helix::Table line;
+    float torsion = 0;
+};
+
 } // namespace
 
 TEST(HelixFrameTest, EachFrameGetsTheNextNameAndNoNameIsUsedTwice) {
@@ -97,6 +113,19 @@ TEST(HelixFrameTest, RefreshTakesOverThePointAndShowsItsCoordinates) {
     }
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.tube(), 0)->diffuseColor[0], SbColor(0, 1, 0));
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.ribbon(), 0)->diffuseColor[0], SbColor(1, 0, 1));
+}
+
+TEST(HelixFrameTest, RefreshShowsTheCoordinatesBeforeItSamplesTheTables) {
+    LookingOwner owner;
+    HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, &owner);
+    frame.initialize();
+    owner.frame = &frame;
+    const Helix::Table before = frame.getHelix().getLineVertices();
+    frame.refresh(-0.7F, 1.3F, 0.4F, 42, 0, 1, 0);
+    EXPECT_EQ(owner.title, "U = (-0.7; 1.3; 0.4)");
+    EXPECT_EQ(owner.torsion, 0.4F);
+    EXPECT_EQ(owner.line, before);
+    EXPECT_NE(frame.getHelix().getLineVertices(), before);
 }
 
 TEST(HelixFrameTest, TakesAVertexOfTheSurfaceAsItTakesItsNumbers) {

@@ -104,6 +104,14 @@ TEST(HelixNodes, ColouredHelixHasAUniformTubeAndTheComplementaryRibbon) {
     EXPECT_NE(child<SoQuadMesh>(ribbon, 2), nullptr);
 }
 
+TEST(HelixNodes, LineOfAColouredHelixIsColouredByVertexAllTheSame) {
+    const Helix helix(1, 0.5F, 0.25F, 0.9F, 0.4F, 0.2F);
+    const Part line(helix.DrawLine());
+    ASSERT_EQ(line->getNumChildren(), 4);
+    expectColors(*child<SoMaterial>(line, 0), helix.getLineColors());
+    EXPECT_EQ(child<SoMaterialBinding>(line, 1)->value.getValue(), SoMaterialBinding::PER_VERTEX);
+}
+
 TEST(HelixNodes, AnyColourButBlackIsUniform) {
     for (const auto& [red, green, blue] :
          {FloatTriple{1e-6F, 0, 0}, {0, 1e-6F, 0}, {0, 0, 1e-6F}}) {
