@@ -23,9 +23,9 @@ void PrintTo(const Degenerate& parameters, std::ostream* out) {
 
 constexpr Degenerate startUp{"start", 1, 1.5, 1, 0.5, 0.5, 1, 0, 0};
 
-// With uHat on the third axis the quadric is a cone, and lambda the reciprocal of 0 but for the
-// roundings: of the wrong sign, so that the semi-axes are roots of negative numbers, or of 0
-// itself.
+// With uHat on the third axis the quadric is a cone: what lambda is the reciprocal of is 0 but for
+// its roundings. They are of the wrong sign, so that the semi-axes are roots of negative numbers,
+// or there are none.
 constexpr Degenerate imaginaryCone{"NegativeLambda", 1.86, 3.4, 8.57, 1.06, -0.9, 0, 0, 2.79};
 constexpr Degenerate imaginaryConeSwapped{
     "NegativeLambdaSwapped", 0.73, 3.86, 5.34, 0.22, 0.36, 0, 0, -1.19};

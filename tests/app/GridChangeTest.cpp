@@ -64,6 +64,19 @@ TEST(GridChangeTest, EverySurfaceMovesItsSphereAndRefreshesTheHelixOnce) {
     EXPECT_EQ(drawings.take(), 3);
 }
 
+TEST(GridChangeTest, HelixOfUIsTiedToAllSurfacesAfterwards) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    HelixFrame& ofU = *opened.helices()[1];
+    opened.hyperboloid(Hyperboloid::USPACE).SetPreviousHelix(&ofU);
+    opened.hyperboloid(Hyperboloid::XSPACE).SetPreviousHelix(opened.helices()[0]);
+    opened.hyperboloid(Hyperboloid::MSPACE).PrevHelixDead();
+    changeGrid(opened, 30, 20);
+    for (int space = 0; space < 3; ++space) {
+        EXPECT_EQ(opened.hyperboloid(space).GetPreviousHelix(), &ofU) << "space " << space;
+    }
+}
+
 TEST(GridChangeTest, NoHelixIsTiedAfterwardsWhenNoneWasBefore) {
     const OpenedWindow opened;
     for (int space = 0; space < 3; ++space) {

@@ -153,6 +153,13 @@ TEST(HelixParameters, CountOfGivenTurnsIsTruncatedFromADoubleProduct) {
     }
 }
 
+TEST(HelixParameters, CountOfSetTurnsIsTruncatedFromAFloatProduct) {
+    // In double precision it would be 28.9999992.
+    Helix helix;
+    helix.setNTurns(0.58F);
+    EXPECT_EQ(helix.getNbLineVertices(), 29U);
+}
+
 TEST(HelixParameters, CountsThatAreNoneAreZero) {
     Helix helix;
     for (const float turns : {0.0F, -3.0F, std::numeric_limits<float>::quiet_NaN(),

@@ -291,6 +291,16 @@ TEST(HyperboloidCone, RimAngleIsSummedInSinglePrecision) {
     EXPECT_NEAR(points[30][0], points[1][0], 1e-5F);
 }
 
+TEST(HyperboloidCone, OffsetsOfTheRimAreSinglePrecisionProducts) {
+    const float phi = 0.21666156F;
+    const float x = 0.37F * std::sin(phi);
+    const float y = 0.37F * std::cos(phi);
+    // A centre on the other side of the origin leaves nothing of the rim's first point.
+    const NodePointer<SoSeparator> cone(HyperboloidDecorations::createCone(
+        Vecteur(-x, -y, 0.0), Vecteur(-x, -y, 1.0), 0.37F, 1.0F));
+    EXPECT_EQ(childAs<SoCoordinate3>(cone.get(), 1)->point[1], SbVec3f(0.0F, 0.0F, 0.0F));
+}
+
 TEST(HyperboloidCone, ApexIsComputedInDouble) {
     // Single precision would have nothing left of a place that is hardly more than the height.
     const double place = 1.0 + 1e-8;
@@ -325,6 +335,18 @@ TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
     const SoMFVec3f& points = childAs<SoCoordinate3>(cone, 1)->point;
     EXPECT_EQ(points[0], SbVec3f(0.0F, 0.0F, static_cast<float>(-7.0 - double{0.14F})));
     EXPECT_EQ(points[31], SbVec3f(0.0F, 0.0F, -7.0F));
+}
+
+TEST(HyperboloidU3Axis, EndsAreCarriedInDouble) {
+    // The rings begin at the radius beside the ends: the shift leaves hardly anything of it.
+    const double shift = 1e-12 - double{0.03F};
+    const HyperboloidSpaces spaces(Matrice(), Vecteur(shift, 0.0, 0.0), Matrice(), Vecteur(3));
+    const NodePointer<SoSeparator> axis(
+        HyperboloidDecorations::createU3Axis(spaces, HyperboloidSpaces::X, 5.0F, 0.03F));
+    const SoMFVec3f& points = childAs<SoCoordinate3>(childAs<SoSeparator>(axis.get(), 0), 1)->point;
+    for (const int start : {0, 30}) {
+        EXPECT_NEAR(points[start][0], 1e-12, 1e-16);
+    }
 }
 
 TEST(HyperboloidU3Axis, IsCarriedIntoEverySpace) {
