@@ -139,6 +139,7 @@ TEST(HelixFrameTest, TakesAVertexOfTheSurfaceAsItTakesItsNumbers) {
     const Helix second(-0.25F, 0.5F, 1.5F, 0.8F, 0.4F, 0.3F);
     EXPECT_EQ(frame.getIndex(), 31);
     EXPECT_EQ(frame.viewerTitle(), "U = (-0.25; 0.5; 1.5)");
+    EXPECT_EQ(frame.pointText(), "U = (-0.25; 0.5; 1.5)");
     EXPECT_EQ(frame.getHelix().getRibbonVertices(), second.getRibbonVertices());
     EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.8F, 0.4F, 0.3F}));
 }
@@ -147,6 +148,9 @@ TEST(HelixFrameTest, TitleHasSixSignificantDigits) {
     LoneHelix lone;
     lone.frame.showU(1.0 / 3, -1234567.0, 1e-10);
     EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.333333; -1.23457e+06; 1e-10)");
+    // The float next to it is a little less than 0.1000015.
+    lone.frame.showU(0.1000015000010, 0.5, -0.1000015000010);
+    EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.100002; 0.5; -0.100002)");
 }
 
 TEST(HelixFrameTest, StraightHelixIsStillDrawnAndTitled) {

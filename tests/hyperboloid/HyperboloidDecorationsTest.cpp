@@ -513,6 +513,16 @@ TEST(HyperboloidMarkers, AreCarriedInDoubleAndNarrowedAtTheEnd) {
         SbVec3f(0.0F, 0.0F, 0.0F));
 }
 
+TEST(HyperboloidTube, EndsWhereStartAndDirectionAddUpTo) {
+    // The sum is rounded to a double next to B, which is half way between two floats.
+    const double start = -1.03;
+    const double end = 1.0 + 0x1p-24;
+    const NodePointer<SoSeparator> tube(HyperboloidDecorations::createTubeLine(
+        Vecteur(start, 0.0, 0.0), Vecteur(end, 0.0, 0.0), 0.7F, true));
+    EXPECT_EQ(static_cast<float>(end), 1.0F);
+    EXPECT_EQ(childAs<SoCoordinate3>(tube.get(), 1)->point[30][0], 1.0F + 0x1p-23F);
+}
+
 TEST(HyperboloidTube, HasAMaterialOfItsOwn) {
     for (const bool isBlue : {false, true}) {
         const auto draw = [&] {

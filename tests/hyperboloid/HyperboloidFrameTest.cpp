@@ -273,7 +273,22 @@ TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
     u.setLightness(25, true);
     EXPECT_EQ(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
     u.setSaturation(80, true);
+    EXPECT_EQ(u.getSaturation(), 0.8);
     EXPECT_NE(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
+}
+
+TEST(HyperboloidFrameTest, AppearanceComputesNoPointsAndTransparencyNoColoursEither) {
+    LoneFrame lone(Hyperboloid::USPACE);
+    HyperboloidFrame& u = lone.frame;
+    const SbVec3f before = vertex(u, 100);
+    u.set_parameters(1, 2, 1, 0.5, 0.5, 1, 0, 0, 64, 64, 0.3, 7, 7, 0.02, 0.03);
+    u.setSaturation(0, true);
+    u.setLightness(25, true);
+    EXPECT_EQ(color(u, 100), grey);
+    u.setSaturation(70, false);
+    u.setTransparency(30, true);
+    EXPECT_EQ(color(u, 100), grey);
+    EXPECT_EQ(vertex(u, 100), before);
 }
 
 TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
