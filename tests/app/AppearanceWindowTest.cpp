@@ -103,6 +103,24 @@ TEST(AppearanceWindowTest, OpeningShowsTheModelAndAppliesWhatIsNotZeroOnce) {
     EXPECT_EQ(drawings.take(), twice) << "lightness and saturation, but not the transparency of 0";
 }
 
+TEST(AppearanceWindowTest, ShowsTheValuesOfUAndAppliesThemToTheOthers) {
+    const OpenedWindow opened;
+    int percent = 31;
+    for (int space = 0; space < 3; ++space) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        frame.setTransparency(percent++, false);
+        frame.setLightness(percent++, false);
+        frame.setSaturation(percent++, false);
+    }
+    const SliderWindow window = openAppearanceWindow(opened);
+    EXPECT_EQ(window.spinBoxValues(), (std::vector<int>{31, 32, 33}));
+    for (int space = 0; space < 3; ++space) {
+        EXPECT_EQ(opened.hyperboloid(space).getTransparency(), 0.31) << "space " << space;
+        EXPECT_EQ(opened.hyperboloid(space).getLightness(), 0.32) << "space " << space;
+        EXPECT_EQ(opened.hyperboloid(space).getSaturation(), 0.33) << "space " << space;
+    }
+}
+
 TEST(AppearanceWindowTest, ValueOfZeroTriggersNothingAtOpening) {
     const OpenedWindow opened;
     for (int space = 0; space < 3; ++space) {

@@ -38,7 +38,7 @@ protected:
     ControlWindows() {
         helix.setTubeR(0.01337F);
         helix.setRibRange(0.07119F);
-        helix.setNTurns(7);
+        helix.setNTurns(7.9F);
         helix.setPrecisionLine(41);
         helix.setPrecisionTube(19);
         // 100 times the double nearest to 0.29 is a little less than 29; so it is with 57.

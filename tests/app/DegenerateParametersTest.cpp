@@ -23,11 +23,21 @@ void PrintTo(const Degenerate& parameters, std::ostream* out) {
 
 constexpr Degenerate startUp{"start", 1, 1.5, 1, 0.5, 0.5, 1, 0, 0};
 
+// With uHat on the third axis the quadric is a cone: what lambda is the reciprocal of is 0 but for
+// its roundings. They are of the wrong sign, so that the semi-axes are roots of negative numbers,
+// or there are none.
+constexpr Degenerate imaginaryCone{"NegativeLambda", 1.86, 3.4, 8.57, 1.06, -0.9, 0, 0, 2.79};
+constexpr Degenerate imaginaryConeSwapped{
+    "NegativeLambdaSwapped", 0.73, 3.86, 5.34, 0.22, 0.36, 0, 0, -1.19};
+constexpr Degenerate collapsedCone{"CollapsedCone", 1.23, 3.79, 7.92, -1.14, -0.25, 0, 0, 1.8};
+
 const std::vector<Degenerate> all{{"K1EqualsK2", 1.5, 1.5, 1, 0.5, 0.5, 1, 0, 0},
                                   {"K1EqualsK2WithoutK13", 1.5, 1.5, 1, 0, 0.5, 1, 0, 0},
                                   {"K1EqualsK2AtTheOrigin", 1, 1, 1, 0.5, 0.5, 0, 0, 0},
-                                  {"NegativeLambda", 1, 1.5, 1, 0.5, -0.5, 0.2, 3, 0},
-                                  {"NegativeLambdaSwapped", 1, 1.5, 1, 0.5, 0.5, 1, 2, 0},
+                                  {"WideRing", 1, 1.5, 1, 0.5, -0.5, 0.2, 3, 0},
+                                  {"WideRingSwapped", 1, 1.5, 1, 0.5, 0.5, 1, 2, 0},
+                                  imaginaryCone,
+                                  collapsedCone,
                                   {"WithoutK13", 1, 1.5, 1, 0, 0.5, 1, 0, 0},
                                   {"WithoutK23", 1, 1.5, 1, 0.5, 0, 1, 0, 0},
                                   {"WithoutBoth", 1, 1.5, 1, 0, 0, 1, 0, 0},
@@ -209,6 +219,37 @@ TEST(DegenerateParametersTest, SomeOfThemReallyAreNotFinite) {
         EXPECT_FALSE(std::isfinite(opened.hyperboloid(space).getVertex(0, 0)));
     }
     EXPECT_FALSE(std::isfinite(opened.firstHelix().getHelix().getRadius()));
+}
+
+TEST(DegenerateParametersTest, ImaginaryConeIsNowhereInEverySpace) {
+    const OpenedWindow opened;
+    for (const Degenerate& cone : {imaginaryCone, imaginaryConeSwapped}) {
+        apply(opened, cone);
+        for (int space = 0; space < 3; ++space) {
+            for (const int vertex : {0, 1234, 4095}) {
+                for (int c = 0; c < 3; ++c) {
+                    EXPECT_TRUE(std::isnan(opened.hyperboloid(space).getVertex(vertex, c)))
+                        << cone.name << ", space " << space;
+                }
+            }
+        }
+    }
+}
+
+TEST(DegenerateParametersTest, CollapsedConeIsItsCentreInEverySpace) {
+    const OpenedWindow opened;
+    apply(opened, collapsedCone);
+    const HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    const HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    const HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
+    for (const int vertex : {0, 1234, 4095}) {
+        for (int c = 0; c < 3; ++c) {
+            EXPECT_EQ(x.getVertex(vertex, c), 0.0F);
+            // The centre of a cone whose uHat is on the third axis is uHat, and its m the origin.
+            EXPECT_NEAR(u.getVertex(vertex, c), c == 2 ? collapsedCone.U3 : 0.0, 1e-6);
+            EXPECT_NEAR(m.getVertex(vertex, c), 0.0, 1e-5);
+        }
+    }
 }
 
 TEST(DegenerateParametersTest, LinesThatAreNowhereDoNotHideTheSurfaceFromTheMouse) {

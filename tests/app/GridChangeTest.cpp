@@ -1,7 +1,9 @@
 // What becomes of the helices when the parameter dialog gives the surfaces another grid.
 
+#include "helix/HelixNames.h"
 #include "tests/app/ParameterDialogs.h"
 #include "tests/support/OpenedWindow.h"
+#include "tests/support/ReplacementCounter.h"
 #include "tests/support/SceneReader.h"
 #include "tests/support/Spheres.h"
 
@@ -52,6 +54,26 @@ TEST(GridChangeTest, FinerGridKeepsEveryHelixAtItsRelativePlace) {
     expectTiedTo(opened, second, 1998);
     for (int space = 0; space < 3; ++space) {
         EXPECT_EQ(opened.hyperboloid(space).GetPreviousHelix(), &first) << "space " << space;
+    }
+}
+
+TEST(GridChangeTest, EverySurfaceMovesItsSphereAndRefreshesTheHelixOnce) {
+    const OpenedWindow opened;
+    ReplacementCounter drawings(*opened.firstHelix().getSceneRoot(), HelixNames::tube);
+    changeGrid(opened, 30, 20);
+    EXPECT_EQ(drawings.take(), 3);
+}
+
+TEST(GridChangeTest, HelixOfUIsTiedToAllSurfacesAfterwards) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    HelixFrame& ofU = *opened.helices()[1];
+    opened.hyperboloid(Hyperboloid::USPACE).SetPreviousHelix(&ofU);
+    opened.hyperboloid(Hyperboloid::XSPACE).SetPreviousHelix(opened.helices()[0]);
+    opened.hyperboloid(Hyperboloid::MSPACE).PrevHelixDead();
+    changeGrid(opened, 30, 20);
+    for (int space = 0; space < 3; ++space) {
+        EXPECT_EQ(opened.hyperboloid(space).GetPreviousHelix(), &ofU) << "space " << space;
     }
 }
 

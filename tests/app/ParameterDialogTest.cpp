@@ -59,6 +59,17 @@ std::unique_ptr<Hyperboloid> distinctModel(int space) {
     return model;
 }
 
+/** Counts the drawings of the surfaces, U first. */
+std::vector<std::unique_ptr<ReplacementCounter>> surfaceDrawings(const OpenedWindow& opened) {
+    std::vector<std::unique_ptr<ReplacementCounter>> drawings;
+    for (int space = 0; space < 3; ++space) {
+        drawings.push_back(std::make_unique<ReplacementCounter>(
+            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
+            HyperboloidNames::surface));
+    }
+    return drawings;
+}
+
 } // namespace
 
 TEST(ParameterDialogTest, IsModalUntitledAndBelongsToTheMainWindow) {
@@ -119,29 +130,23 @@ TEST(ParameterDialogTest, OpensAgainWithTheAcceptedValuesInEveryField) {
 
 TEST(ParameterDialogTest, OkButtonAndEnterAcceptEachSurfaceDrawnOnce) {
     const OpenedWindow opened;
-    ReplacementCounter drawings(
-        SceneReader::drawStyleBranch(*opened.hyperboloid(Hyperboloid::MSPACE).getSceneRoot()),
-        HyperboloidNames::surface);
-    answerParameters(opened, {[](QWidget& dialog) {
-                         click(dialog, "Ok");
-                     }});
-    EXPECT_EQ(drawings.take(), 1);
-    answerParameters(opened, {[](QWidget& dialog) {
-                         pressEnter(dialog);
-                     }});
-    EXPECT_EQ(drawings.take(), 1);
+    const auto drawings = surfaceDrawings(opened);
+    const std::vector<DialogDriver::Step> waysOn{[](QWidget& dialog) { click(dialog, "Ok"); },
+                                                 [](QWidget& dialog) {
+                                                     pressEnter(dialog);
+                                                 }};
+    for (const DialogDriver::Step& accept : waysOn) {
+        answerParameters(opened, {accept});
+        for (const auto& drawing : drawings) {
+            EXPECT_EQ(drawing->take(), 1);
+        }
+    }
     EXPECT_EQ(asFloats(valuesOf(opened, Hyperboloid::MSPACE)), asFloats(startValues));
 }
 
 TEST(ParameterDialogTest, CancelEscapeAndClosingLeaveEverythingUntouched) {
     const OpenedWindow opened;
-    std::vector<std::unique_ptr<ReplacementCounter>> drawings;
-    drawings.reserve(4);
-    for (int space = 0; space < 3; ++space) {
-        drawings.push_back(std::make_unique<ReplacementCounter>(
-            SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),
-            HyperboloidNames::surface));
-    }
+    std::vector<std::unique_ptr<ReplacementCounter>> drawings = surfaceDrawings(opened);
     drawings.push_back(std::make_unique<ReplacementCounter>(*opened.firstHelix().getSceneRoot(),
                                                             HelixNames::tube));
     const std::vector<DialogDriver::Step> waysOut{[](QWidget& dialog) { click(dialog, "Cancel"); },

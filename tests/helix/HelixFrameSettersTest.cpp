@@ -77,6 +77,21 @@ TEST(HelixFrameSettersTest, EachSetterWithoutRedrawGivesTheTablesTheirSizes) {
     }
 }
 
+TEST(HelixFrameSettersTest, TablesThatASetterDoesNotResizeStayAsTheyAre) {
+    HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, nullptr);
+    const Helix& helix = frame.getHelix();
+    const Helix before(helix);
+    frame.set_ribbon_range(0.37, false);
+    frame.set_tube_radius(0.023, false);
+    EXPECT_EQ(helix.getTubeVertices(), before.getTubeVertices());
+    EXPECT_EQ(helix.getTubeColors(), before.getTubeColors());
+    frame.set_precision_tube(11, false);
+    EXPECT_EQ(helix.getLineVertices(), before.getLineVertices());
+    EXPECT_EQ(helix.getLineColors(), before.getLineColors());
+    EXPECT_EQ(helix.getRibbonVertices(), before.getRibbonVertices());
+    EXPECT_EQ(helix.getRibbonColors(), before.getRibbonColors());
+}
+
 TEST(HelixFrameSettersTest, SetterWithRedrawSamplesWhatOneWithoutLeftToItToo) {
     HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, nullptr);
     frame.initialize();

@@ -39,6 +39,22 @@ public:
     static int pointCount(const SoSeparator& part) { return static_cast<int>(points(part).size()); }
 };
 
+/** An owner that looks at a helix as soon as it hears of another title. */
+class LookingOwner : public FrameOwner {
+public:
+    void SayHypoImDead(SbName /*name*/) override {}
+    void viewerTitleChanged() override {
+        title = frame->viewerTitle();
+        line = frame->getHelix().getLineVertices();
+        torsion = frame->getHelix().getTorsion();
+    }
+
+    const HelixFrame* frame = nullptr;
+    QString title;
+    Helix::Table line;
+    float torsion = 0;
+};
+
 } // namespace
 
 TEST(HelixFrameTest, EachFrameGetsTheNextNameAndNoNameIsUsedTwice) {
@@ -99,6 +115,19 @@ TEST(HelixFrameTest, RefreshTakesOverThePointAndShowsItsCoordinates) {
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.ribbon(), 0)->diffuseColor[0], SbColor(1, 0, 1));
 }
 
+TEST(HelixFrameTest, RefreshShowsTheCoordinatesBeforeItSamplesTheTables) {
+    LookingOwner owner;
+    HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, &owner);
+    frame.initialize();
+    owner.frame = &frame;
+    const Helix::Table before = frame.getHelix().getLineVertices();
+    frame.refresh(-0.7F, 1.3F, 0.4F, 42, 0, 1, 0);
+    EXPECT_EQ(owner.title, "U = (-0.7; 1.3; 0.4)");
+    EXPECT_EQ(owner.torsion, 0.4F);
+    EXPECT_EQ(owner.line, before);
+    EXPECT_NE(frame.getHelix().getLineVertices(), before);
+}
+
 TEST(HelixFrameTest, TakesAVertexOfTheSurfaceAsItTakesItsNumbers) {
     HelixFrame frame({23, {0.7F, -0.3F, 0.2F}, {0.1F, 0.6F, 0.9F}}, true, nullptr);
     const Helix first(0.7F, -0.3F, 0.2F, 0.1F, 0.6F, 0.9F);
@@ -110,6 +139,7 @@ TEST(HelixFrameTest, TakesAVertexOfTheSurfaceAsItTakesItsNumbers) {
     const Helix second(-0.25F, 0.5F, 1.5F, 0.8F, 0.4F, 0.3F);
     EXPECT_EQ(frame.getIndex(), 31);
     EXPECT_EQ(frame.viewerTitle(), "U = (-0.25; 0.5; 1.5)");
+    EXPECT_EQ(frame.pointText(), "U = (-0.25; 0.5; 1.5)");
     EXPECT_EQ(frame.getHelix().getRibbonVertices(), second.getRibbonVertices());
     EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.8F, 0.4F, 0.3F}));
 }
@@ -118,6 +148,9 @@ TEST(HelixFrameTest, TitleHasSixSignificantDigits) {
     LoneHelix lone;
     lone.frame.showU(1.0 / 3, -1234567.0, 1e-10);
     EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.333333; -1.23457e+06; 1e-10)");
+    // The float next to it is a little less than 0.1000015.
+    lone.frame.showU(0.1000015000010, 0.5, -0.1000015000010);
+    EXPECT_EQ(lone.frame.viewerTitle(), "U = (0.100002; 0.5; -0.100002)");
 }
 
 TEST(HelixFrameTest, StraightHelixIsStillDrawnAndTitled) {

@@ -104,6 +104,20 @@ TEST(HelixNodes, ColouredHelixHasAUniformTubeAndTheComplementaryRibbon) {
     EXPECT_NE(child<SoQuadMesh>(ribbon, 2), nullptr);
 }
 
+TEST(HelixNodes, RibbonsColourIsTheComplementChannelByChannel) {
+    const Helix helix(1, 0.5F, 0.25F, 0.9F, 0.4F, 0.2F);
+    expectColors(*child<SoMaterial>(Part(helix.DrawTube()), 0), {{0.9F, 0.4F, 0.2F}});
+    expectColors(*child<SoMaterial>(Part(helix.DrawRibbon()), 0), {{1 - 0.9F, 1 - 0.4F, 1 - 0.2F}});
+}
+
+TEST(HelixNodes, LineOfAColouredHelixIsColouredByVertexAllTheSame) {
+    const Helix helix(1, 0.5F, 0.25F, 0.9F, 0.4F, 0.2F);
+    const Part line(helix.DrawLine());
+    ASSERT_EQ(line->getNumChildren(), 4);
+    expectColors(*child<SoMaterial>(line, 0), helix.getLineColors());
+    EXPECT_EQ(child<SoMaterialBinding>(line, 1)->value.getValue(), SoMaterialBinding::PER_VERTEX);
+}
+
 TEST(HelixNodes, AnyColourButBlackIsUniform) {
     for (const auto& [red, green, blue] :
          {FloatTriple{1e-6F, 0, 0}, {0, 1e-6F, 0}, {0, 0, 1e-6F}}) {
@@ -157,4 +171,18 @@ TEST(HelixNodes, RingOfASingleVertexHasNoMesh) {
     const Part tube(helix.DrawTube());
     EXPECT_EQ(tube->getNumChildren(), 3);
     EXPECT_EQ(child<SoCoordinate3>(tube, 2)->point.getNum(), 250);
+}
+
+TEST(HelixNodes, LineOfASingleVertexHasNeitherTubeNorRibbonMesh) {
+    Helix helix;
+    helix.setPrecisionLine(1);
+    helix.setNTurns(1);
+    helix.init_tables(true, true, true);
+    helix.generatePoints(true, true, true);
+    const Part tube(helix.DrawTube());
+    const Part ribbon(helix.DrawRibbon());
+    ASSERT_EQ(tube->getNumChildren(), 3);
+    ASSERT_EQ(ribbon->getNumChildren(), 3);
+    EXPECT_EQ(child<SoCoordinate3>(tube, 2)->point.getNum(), 16);
+    EXPECT_EQ(child<SoCoordinate3>(ribbon, 2)->point.getNum(), 2);
 }

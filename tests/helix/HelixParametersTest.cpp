@@ -144,6 +144,22 @@ TEST(HelixParameters, CountsAreTruncated) {
     EXPECT_EQ(helix.getPrecisionLine(), 7U);
 }
 
+TEST(HelixParameters, CountOfGivenTurnsIsTruncatedFromADoubleProduct) {
+    // The float next to 0.58 is a little less: 28.9999992 vertices, which single precision
+    // calls 29.
+    for (const bool fromRadiusPitch : {false, true}) {
+        EXPECT_EQ(Helix(0.7F, 0.3F, 0.58F, 9, fromRadiusPitch).getNbLineVertices(), 28U);
+        EXPECT_EQ(Helix(0.7F, 0.3F, 0.59F, 9, fromRadiusPitch).getNbLineVertices(), 29U);
+    }
+}
+
+TEST(HelixParameters, CountOfSetTurnsIsTruncatedFromAFloatProduct) {
+    // In double precision it would be 28.9999992.
+    Helix helix;
+    helix.setNTurns(0.58F);
+    EXPECT_EQ(helix.getNbLineVertices(), 29U);
+}
+
 TEST(HelixParameters, CountsThatAreNoneAreZero) {
     Helix helix;
     for (const float turns : {0.0F, -3.0F, std::numeric_limits<float>::quiet_NaN(),

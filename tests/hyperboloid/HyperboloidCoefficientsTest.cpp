@@ -90,6 +90,41 @@ TEST(HyperboloidCoefficients, LambdaMixesFloatAndDoubleAsItsFormulaSays) {
     EXPECT_EQ(lambda->values.GetCoord(2), double{third});
 }
 
+TEST(HyperboloidCoefficients, LambdaOfAConeHasTheSignThatTheRoundingsLeave) {
+    // uHat on the third axis makes b c equal to a d, and k = -(b c - a d)^2 / (4 b d) vanish.
+    struct Cone {
+        HyperboloidParameters p;
+        bool swapAxes;
+        int sign;
+    };
+    for (const auto& [p, swapAxes, sign] :
+         {Cone{{1.86, 3.4, 8.57, 1.06, -0.9, 0.0, 0.0, 2.79}, false, -1},
+          Cone{{1.7, 2.94, 8.61, 1.08, -0.24, 0.0, 0.0, -1.7}, false, 1},
+          Cone{{0.73, 3.86, 5.34, 0.22, 0.36, 0.0, 0.0, -1.19}, true, -1},
+          Cone{{1.95, 2.93, 6.76, -0.5, -0.77, 0.0, 0.0, 0.51}, true, 1}}) {
+        SCOPED_TRACE(testing::Message() << "uHat3 " << p.U3);
+        const auto lambda = Coefficients::lambda(pnasOf(p));
+        ASSERT_TRUE(lambda.has_value());
+        EXPECT_EQ(lambda->swapAxes, swapAxes);
+        for (const double component : coordinates(lambda->values)) {
+            EXPECT_GT(sign * component, 1e5);
+        }
+        for (const float semiAxis : Coefficients::semiAxes(lambda->values)) {
+            EXPECT_EQ(std::isnan(semiAxis), sign < 0);
+        }
+    }
+}
+
+TEST(HyperboloidCoefficients, SemiAxesOfAConeWithoutRoundingsAreZero) {
+    for (const HyperboloidParameters& p :
+         {HyperboloidParameters{1.23, 3.79, 7.92, -1.14, -0.25, 0.0, 0.0, 1.8},
+          HyperboloidParameters{1.57, 3.47, 3.58, -0.95, 0.95, 0.0, 0.0, 2.42}}) {
+        const auto lambda = Coefficients::lambda(pnasOf(p));
+        ASSERT_TRUE(lambda.has_value());
+        EXPECT_EQ(Coefficients::semiAxes(lambda->values), (std::array<float, 3>{0.0F, 0.0F, 0.0F}));
+    }
+}
+
 TEST(HyperboloidCoefficients, LambdaIsMissingWhenBdOrSigmaIsZero) {
     EXPECT_FALSE(Coefficients::lambda({1.0F, 0.0F, 1.0F, 1.0F}).has_value());
     EXPECT_FALSE(Coefficients::lambda({1.0F, 1.0F, 1.0F, 0.0F}).has_value());

@@ -291,6 +291,39 @@ TEST(HyperboloidCone, RimAngleIsSummedInSinglePrecision) {
     EXPECT_NEAR(points[30][0], points[1][0], 1e-5F);
 }
 
+TEST(HyperboloidCone, OffsetsOfTheRimAreSinglePrecisionProducts) {
+    const float phi = 0.21666156F;
+    const float x = 0.37F * std::sin(phi);
+    const float y = 0.37F * std::cos(phi);
+    // A centre on the other side of the origin leaves nothing of the rim's first point.
+    const NodePointer<SoSeparator> cone(HyperboloidDecorations::createCone(
+        Vecteur(-x, -y, 0.0), Vecteur(-x, -y, 1.0), 0.37F, 1.0F));
+    EXPECT_EQ(childAs<SoCoordinate3>(cone.get(), 1)->point[1], SbVec3f(0.0F, 0.0F, 0.0F));
+}
+
+TEST(HyperboloidCone, ApexIsComputedInDouble) {
+    // Single precision would have nothing left of a place that is hardly more than the height.
+    const double place = 1.0 + 1e-8;
+    const NodePointer<SoSeparator> cone(HyperboloidDecorations::createCone(
+        Vecteur(place, 0.0, 0.0), Vecteur(3.0, 0.0, 0.0), 0.2F, 1.0F));
+    EXPECT_EQ(childAs<SoCoordinate3>(cone.get(), 1)->point[0][0], static_cast<float>(place - 1.0));
+}
+
+TEST(HyperboloidU3Axis, ArrowIsOfFixedSizeToTheLastBit) {
+    const HyperboloidSpaces spaces(Matrice(), Vecteur(3), Matrice(), Vecteur(3));
+    // A short axis, so that nothing of the height is rounded away.
+    const NodePointer<SoSeparator> axis(
+        HyperboloidDecorations::createU3Axis(spaces, HyperboloidSpaces::U, 0.01F, 0.03F));
+    const SoMFVec3f& points = childAs<SoCoordinate3>(childAs<SoSeparator>(axis.get(), 1), 1)->point;
+    EXPECT_EQ(points[0][2], static_cast<float>(-double{0.01F} - double{0.14F}));
+    float phi = 0.21666156F;
+    for (int k = 1; k <= 30; ++k) {
+        EXPECT_EQ(points[k][0], 0.08F * std::sin(phi));
+        EXPECT_EQ(points[k][1], 0.08F * std::cos(phi));
+        phi = static_cast<float>(phi + 0.21666156231653746);
+    }
+}
+
 TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
     ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     const NodePointer<SoSeparator> axis(hyperboloid.DrawU3Axis(7.0F, 0.03F));
@@ -302,6 +335,18 @@ TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
     const SoMFVec3f& points = childAs<SoCoordinate3>(cone, 1)->point;
     EXPECT_EQ(points[0], SbVec3f(0.0F, 0.0F, static_cast<float>(-7.0 - double{0.14F})));
     EXPECT_EQ(points[31], SbVec3f(0.0F, 0.0F, -7.0F));
+}
+
+TEST(HyperboloidU3Axis, EndsAreCarriedInDouble) {
+    // The rings begin at the radius beside the ends: the shift leaves hardly anything of it.
+    const double shift = 1e-12 - double{0.03F};
+    const HyperboloidSpaces spaces(Matrice(), Vecteur(shift, 0.0, 0.0), Matrice(), Vecteur(3));
+    const NodePointer<SoSeparator> axis(
+        HyperboloidDecorations::createU3Axis(spaces, HyperboloidSpaces::X, 5.0F, 0.03F));
+    const SoMFVec3f& points = childAs<SoCoordinate3>(childAs<SoSeparator>(axis.get(), 0), 1)->point;
+    for (const int start : {0, 30}) {
+        EXPECT_NEAR(points[start][0], 1e-12, 1e-16);
+    }
 }
 
 TEST(HyperboloidU3Axis, IsCarriedIntoEverySpace) {
@@ -366,6 +411,35 @@ TEST(HyperboloidU3ConstLines, LieOnTheQuadric) {
     }
 }
 
+/** The first point of one of the four lines, carried by x = u + s and drawn without breadth. */
+SbVec3f startOfLine(int line, const HyperboloidCoefficients::Pnas& pnas, const Vecteur& shift) {
+    const HyperboloidSpaces spaces(Matrice(), shift, Matrice(), Vecteur(3));
+    const NodePointer<SoSeparator> lines(
+        HyperboloidDecorations::createU3ConstAxis(spaces, HyperboloidSpaces::X, pnas, 3.7F, 0.0F));
+    return childAs<SoCoordinate3>(childAs<SoSeparator>(lines.get(), line), 1)->point[0];
+}
+
+TEST(HyperboloidU3ConstLines, ArePlacedInSinglePrecisionBeforeTheyAreCarried) {
+    const float a = -0.51F;
+    const float b = -1.96F;
+    const float c = 0.2F;
+    const float d = 0.57F;
+    const float ad = a * d;
+    const float cb = c * b;
+    const float upperOffset = c - ad / b;
+    const float lowerOffset = a - cb / d;
+    const float upperHeight = -a / b;
+    const float lowerHeight = -c / d;
+    // A shift by the rounded place leaves nothing of it, and by any other place the difference.
+    const HyperboloidCoefficients::Pnas pnas{a, b, c, d};
+    const Vecteur toUpper(0.0, -upperOffset, -upperHeight);
+    const Vecteur toLower(-lowerOffset, 0.0, -lowerHeight);
+    EXPECT_EQ(startOfLine(0, pnas, toUpper), SbVec3f(-3.7F, 0.0F, 0.0F));
+    EXPECT_EQ(startOfLine(1, pnas, toUpper)[2], 0.0F);
+    EXPECT_EQ(startOfLine(2, pnas, toLower), SbVec3f(0.0F, -3.7F, 0.0F));
+    EXPECT_EQ(startOfLine(3, pnas, toLower)[2], 0.0F);
+}
+
 TEST(HyperboloidU3ConstLines, AreNotFiniteWithoutB) {
     testing::internal::CaptureStderr();
     ExposedHyperboloid hyperboloid(withoutK13, Hyperboloid::USPACE);
@@ -418,6 +492,47 @@ TEST(HyperboloidMarkers, TheCenterIsExactlyTheOriginOfXSpace) {
     const NodePointer<SoSeparator> marker(hyperboloid.DrawCenter());
     EXPECT_EQ(childAs<SoTransform>(marker.get(), 0)->translation.getValue(),
               SbVec3f(0.0F, 0.0F, 0.0F));
+}
+
+TEST(HyperboloidMarkers, AreCarriedInDoubleAndNarrowedAtTheEnd) {
+    const Vecteur point(0.1, -0.7, 1.3);
+    const auto placeOf = [](SoSeparator* node) {
+        const NodePointer<SoSeparator> marker(node);
+        return childAs<SoTransform>(marker.get(), 0)->translation.getValue();
+    };
+    const NodePointer<SoGroup> sphere(new SoGroup);
+    // x = uHat + s vanishes when s is the opposite of uHat to the last bit of the doubles.
+    const HyperboloidSpaces shifted(Matrice(), point.oppose(), Matrice(), point);
+    EXPECT_EQ(
+        placeOf(HyperboloidDecorations::createUHat(shifted, HyperboloidSpaces::X, sphere.get())),
+        SbVec3f(0.0F, 0.0F, 0.0F));
+    // u = -s is uHat, whose m is the origin, however large K is.
+    const HyperboloidSpaces enlarged(Matrice(), point.oppose(), Matrice(1e6, 1e6, 1e6), point);
+    EXPECT_EQ(
+        placeOf(HyperboloidDecorations::createCenter(enlarged, HyperboloidSpaces::M, sphere.get())),
+        SbVec3f(0.0F, 0.0F, 0.0F));
+}
+
+TEST(HyperboloidTube, EndsWhereStartAndDirectionAddUpTo) {
+    // The sum is rounded to a double next to B, which is half way between two floats.
+    const double start = -1.03;
+    const double end = 1.0 + 0x1p-24;
+    const NodePointer<SoSeparator> tube(HyperboloidDecorations::createTubeLine(
+        Vecteur(start, 0.0, 0.0), Vecteur(end, 0.0, 0.0), 0.7F, true));
+    EXPECT_EQ(static_cast<float>(end), 1.0F);
+    EXPECT_EQ(childAs<SoCoordinate3>(tube.get(), 1)->point[30][0], 1.0F + 0x1p-23F);
+}
+
+TEST(HyperboloidTube, HasAMaterialOfItsOwn) {
+    for (const bool isBlue : {false, true}) {
+        const auto draw = [&] {
+            return NodePointer<SoSeparator>(HyperboloidDecorations::createTubeLine(
+                Vecteur(0.1, 0.2, 0.3), Vecteur(1.7, 0.9, -2.3), 0.7F, isBlue));
+        };
+        const NodePointer<SoSeparator> first(draw());
+        const NodePointer<SoSeparator> second(draw());
+        EXPECT_NE(first->getChild(0), second->getChild(0));
+    }
 }
 
 TEST(HyperboloidMarkers, AreResizedTogetherWithTheSharedSphere) {

@@ -5,6 +5,7 @@
 #include "tests/support/Spheres.h"
 #include "tests/support/VertexHelix.h"
 
+#include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoQuadMesh.h>
@@ -12,6 +13,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <utility>
 
 using Names = std::vector<std::string>;
 
@@ -233,6 +235,24 @@ TEST(HyperboloidFrameTest, RedrawWithNewTablesTakesOverTheNewGrid) {
     EXPECT_EQ(SceneReader::child<SoCoordinate3>(*surface, 2)->point.getNum(), 20 * 10);
 }
 
+TEST(HyperboloidFrameTest, AxisAndLinesEachHaveTheirOwnLengthAndRadius) {
+    LoneFrame lone(Hyperboloid::USPACE);
+    lone.frame.set_parameters(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, 20, 10, 0.3, 6.11, 5.03, 0.04, 0.06);
+    lone.frame.reDraw(true, true);
+    const auto tubeOf = [&](const char* decoration, int tube) {
+        const SoSeparator* parts = SceneReader::childNamed(phongBranch(lone.frame), decoration);
+        const auto* part = SceneReader::child<SoSeparator>(*parts, tube);
+        const auto& points = SceneReader::child<SoCoordinate3>(*part, 1)->point;
+        return std::pair(points[0], points[30]);
+    };
+    // Every ring begins one radius beside its centre.
+    EXPECT_EQ(tubeOf(HyperboloidNames::u3Axis, 0),
+              std::pair(SbVec3f(0.06F, 0, -5.03F), SbVec3f(0.06F, 0, 5.03F)));
+    // The last of the lines is the first axis.
+    EXPECT_EQ(tubeOf(HyperboloidNames::u3ConstAxis, 3),
+              std::pair(SbVec3f(-6.11F, 0.04F, 0), SbVec3f(6.11F, 0.04F, 0)));
+}
+
 TEST(HyperboloidFrameTest, BecomingBrothersBringsTheColoursOfUIntoTheScene) {
     LoneFrame u(Hyperboloid::USPACE);
     LoneFrame x(Hyperboloid::XSPACE);
@@ -253,7 +273,22 @@ TEST(HyperboloidFrameTest, SaturationAndLightnessRecolourOnlyWhenAsked) {
     u.setLightness(25, true);
     EXPECT_EQ(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
     u.setSaturation(80, true);
+    EXPECT_EQ(u.getSaturation(), 0.8);
     EXPECT_NE(color(u, 100), SbColor(0.25F, 0.25F, 0.25F));
+}
+
+TEST(HyperboloidFrameTest, AppearanceComputesNoPointsAndTransparencyNoColoursEither) {
+    LoneFrame lone(Hyperboloid::USPACE);
+    HyperboloidFrame& u = lone.frame;
+    const SbVec3f before = vertex(u, 100);
+    u.set_parameters(1, 2, 1, 0.5, 0.5, 1, 0, 0, 64, 64, 0.3, 7, 7, 0.02, 0.03);
+    u.setSaturation(0, true);
+    u.setLightness(25, true);
+    EXPECT_EQ(color(u, 100), grey);
+    u.setSaturation(70, false);
+    u.setTransparency(30, true);
+    EXPECT_EQ(color(u, 100), grey);
+    EXPECT_EQ(vertex(u, 100), before);
 }
 
 TEST(HyperboloidFrameTest, TransparencyReachesTheMaterialAtOnce) {
@@ -354,6 +389,52 @@ TEST(HyperboloidFrameTest, ColumnsWrapWithoutEverReachingTheSeam) {
     m.refresh_helix(10 + seam * rows);
     m.moveSphere(HyperboloidFrame::LEFT);
     expectSpheresAtVertex(opened, helix, 10 + rows);
+}
+
+TEST(HyperboloidFrameTest, StepsReachTheFourNeighboursOnAGridThatIsNotSquare) {
+    const LinkedFrames opened;
+    HelixFrame& helix = opened.firstHelix();
+    HyperboloidParameters onOtherGrid;
+    onOtherGrid.horizontalPrecision = 30;
+    onOtherGrid.verticalPrecision = 20;
+    for (int space = 0; space < 3; ++space) {
+        opened.hyperboloid(space).setParameters(onOtherGrid);
+        opened.hyperboloid(space).reDraw(true, true);
+    }
+    for (int space = 0; space < 3; ++space) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        frame.SetPreviousHelix(&helix);
+        // Row 11 of column 23.
+        for (const auto& [direction, expected] :
+             {std::pair(HyperboloidFrame::UP, 470), std::pair(HyperboloidFrame::DOWN, 472),
+              std::pair(HyperboloidFrame::RIGHT, 451), std::pair(HyperboloidFrame::LEFT, 491)}) {
+            frame.refresh_helix(471);
+            frame.moveSphere(direction);
+            expectSpheresAtVertex(opened, helix, expected);
+            expectHelixOfVertex(helix, opened.hyperboloid(Hyperboloid::USPACE), expected);
+        }
+    }
+}
+
+TEST(HyperboloidFrameTest, PressedDirectionKeysAreConsumedAndNothingElseIs) {
+    const LinkedFrames opened;
+    HyperboloidFrame& frame = opened.hyperboloid(Hyperboloid::XSPACE);
+    for (HelixFrame* helix : {&opened.firstHelix(), static_cast<HelixFrame*>(nullptr)}) {
+        for (const auto& [key, answer] :
+             {std::pair(SoKeyboardEvent::S, 1), std::pair(SoKeyboardEvent::PAD_4, 1),
+              std::pair(SoKeyboardEvent::UP_ARROW, 1), std::pair(SoKeyboardEvent::E, 0),
+              std::pair(SoKeyboardEvent::PAD_5, 0)}) {
+            frame.SetPreviousHelix(helix);
+            SoKeyboardEvent event;
+            event.setKey(key);
+            event.setState(SoButtonEvent::DOWN);
+            EXPECT_EQ(frame.processSoEvent(&event), answer) << key;
+            event.setState(SoButtonEvent::UP);
+            const int index = opened.firstHelix().getIndex();
+            EXPECT_EQ(frame.processSoEvent(&event), 0) << key;
+            EXPECT_EQ(opened.firstHelix().getIndex(), index) << key;
+        }
+    }
 }
 
 TEST(HyperboloidFrameTest, StepWithoutATiedHelixChangesNothing) {

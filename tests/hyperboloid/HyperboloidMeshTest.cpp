@@ -10,6 +10,7 @@
 #include <Inventor/details/SoFaceDetail.h>
 #include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoMaterial.h>
+#include <Inventor/nodes/SoPickStyle.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/nodes/SoTransform.h>
 #include <algorithm>
@@ -254,4 +255,33 @@ TEST(HyperboloidMesh, FollowsCoordinatesThatAreReplaced) {
     const std::optional<Picked> expected = pick(*second.plain, from, toSecond);
     first.quick->replaceChild(2, second.quick->getChild(2));
     EXPECT_EQ(pick(*first.quick, from, toSecond)->point, expected->point);
+}
+
+TEST(HyperboloidMesh, IsNotHitWhereNothingIsToBePicked) {
+    const MeshOf mesh(Hyperboloid::USPACE, 30, 30);
+    const SbVec3f from(0.3F, 0.2F, 40);
+    ASSERT_TRUE(pick(*mesh.quick, from, mesh.vertex(200) - from).has_value());
+    auto* style = new SoPickStyle;
+    style->style = SoPickStyle::UNPICKABLE;
+    mesh.quick->insertChild(style, 0);
+    EXPECT_FALSE(pick(*mesh.quick, from, mesh.vertex(200) - from).has_value());
+}
+
+TEST(HyperboloidMesh, IsHitFarAwayFromWhereItWasOnceItIsMoved) {
+    const MeshOf mesh(Hyperboloid::USPACE, 30, 30);
+    const SbVec3f from(0.3F, 0.2F, 40);
+    const SbVec3f direction = mesh.vertex(200) - from;
+    const std::optional<Picked> before = pick(*mesh.quick, from, direction);
+    ASSERT_TRUE(before.has_value());
+    const SbVec3f move(300, -200, 100);
+    const auto* old = dynamic_cast<SoCoordinate3*>(mesh.quick->getChild(2));
+    auto* moved = new SoCoordinate3;
+    for (int k = 0; k < old->point.getNum(); ++k) {
+        moved->point.set1Value(k, old->point[k] + move);
+    }
+    mesh.quick->replaceChild(2, moved);
+    const std::optional<Picked> after = pick(*mesh.quick, from + move, direction);
+    ASSERT_TRUE(after.has_value());
+    EXPECT_EQ(after->materialIndex, before->materialIndex);
+    EXPECT_FALSE(pick(*mesh.quick, from, direction).has_value());
 }

@@ -221,6 +221,15 @@ TEST(HyperboloidSurface, TheRefusalNamesBothGrids) {
     }
 }
 
+TEST(HyperboloidSurface, TablesThatCouldNotBeMadeAreOfNoGrid) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.regenerate(startUp, 12, 20);
+    hyperboloid.setGrid(startUp, 2000000000, 2000000000);
+    EXPECT_THROW(hyperboloid.init_tables(), std::length_error);
+    hyperboloid.setGrid(startUp, 12, 20);
+    expectMissingTables([&] { hyperboloid.generateHyperboloidPoints(true, true); });
+}
+
 TEST(HyperboloidSurface, TheGridBackAsItWasNeedsNoNewTables) {
     ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     hyperboloid.regenerate(startUp, 12, 20);
@@ -303,6 +312,27 @@ TEST(HyperboloidSurface, PositionForParametersIgnoresSwappedAxesAndNegatesTheHei
     EXPECT_EQ(p[0], 2.0F * r * std::cos(theta));
     EXPECT_EQ(p[1], 3.0F * r * std::sin(theta));
     EXPECT_EQ(p[2], -5.0F * t);
+}
+
+TEST(HyperboloidSurface, PositionForParametersIsComputedInSinglePrecision) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    hyperboloid.semiAxis = {2.7F, 3.3F, 5.9F};
+    int differences = 0;
+    int radiusDifferences = 0;
+    for (float t = -3.9F; t < 4.0F; t += 0.37F) {
+        const float theta = 1.7F * t;
+        float p[3];
+        hyperboloid.computePositionForParams(t, theta, p);
+        const float r = std::sqrt(t * t + 1.0F);
+        EXPECT_EQ(p[0], 2.7F * r * std::cos(theta));
+        EXPECT_EQ(p[1], 3.3F * r * std::sin(theta));
+        const double exactRadius = std::sqrt(double{t} * t + 1.0);
+        const double exactCosine = std::cos(double{theta});
+        differences += p[0] != static_cast<float>(2.7F * exactRadius * exactCosine) ? 1 : 0;
+        radiusDifferences += r != static_cast<float>(exactRadius) ? 1 : 0;
+    }
+    EXPECT_GT(differences, 0) << "double precision must give other numbers here";
+    EXPECT_GT(radiusDifferences, 0) << "and another radius";
 }
 
 } // namespace

@@ -287,6 +287,25 @@ TEST(Hyperboloid, ThePointMarkersShareOneSphereThatIsResized) {
     EXPECT_EQ(static_cast<SoSphere*>(group->getChild(0))->radius.getValue(), 1.5F);
 }
 
+TEST(Hyperboloid, AResizedMarkerIsAnotherSphereThanBefore) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    const NodePointer<SoSphere> before(
+        static_cast<SoSphere*>(hyperboloid.sphereGroup->getChild(0)));
+    hyperboloid.createMySphere(1.5F);
+    EXPECT_NE(hyperboloid.sphereGroup->getChild(0), before.get());
+    EXPECT_EQ(before->radius.getValue(), 0.3F);
+}
+
+TEST(Hyperboloid, ThePointRadiusOfTheParametersIsTheMarkersRadius) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::MSPACE);
+    HyperboloidParameters parameters = startUp;
+    parameters.pointRadius = 0.53;
+    hyperboloid.setParameters(parameters);
+    ASSERT_EQ(hyperboloid.sphereGroup->getNumChildren(), 1);
+    EXPECT_EQ(static_cast<SoSphere*>(hyperboloid.sphereGroup->getChild(0))->radius.getValue(),
+              0.53F);
+}
+
 TEST(Hyperboloid, NodesOutliveTheModelAsLongAsAnotherOwnerHoldsThem) {
     NodePointer<SoMaterial> material;
     NodePointer<SoGroup> sphereGroup;

@@ -132,6 +132,15 @@ TEST(Matrice, TransposeSwapsRowsAndColumns) {
     expectEqual(counting().transp(), Matrice(1, 4, 7, 2, 5, 8, 3, 6, 10));
 }
 
+TEST(Matrice, TransposeOfTwoColumnsKeepsTheLastRowOfTheIdentity) {
+    const double values[3][2] = {{1, 2}, {4, 5}, {7, 8}};
+    Matrice narrow;
+    for (int i = 0; i < 3; ++i) {
+        narrow[i].SetVect(Vecteur(values[i], 2));
+    }
+    expectEqual(narrow.transp(), Matrice(1, 4, 7, 2, 5, 8, 0, 0, 1));
+}
+
 TEST(Matrice, DeterminantOfKnownMatrices) {
     EXPECT_EQ(Matrice().det(), 1);
     EXPECT_EQ(Matrice(2, 3, 4).det(), 24);
@@ -210,6 +219,8 @@ TEST(Matrice, SizesThatDoNotFitThrowTheirTexts) {
     EXPECT_EQ(thrownBy([&] { wide* m; }),
               "Multiplication matrice Erreur: colonnes et lignes ne correspondent pas.");
     EXPECT_EQ(thrownBy([&] { m* Vecteur(2); }),
+              "Multiplication Matrice*Vecteur Erreur: dimensions fausses.");
+    EXPECT_EQ(thrownBy([&] { wide* Vecteur(3); }),
               "Multiplication Matrice*Vecteur Erreur: dimensions fausses.");
     EXPECT_EQ(thrownBy([&] { m + wide; }), "Somme matrice Erreur: dimensions pas egales.");
     EXPECT_EQ(thrownBy([&] { m - wide; }), "Difference matrice Erreur: dimensions pas egales.");

@@ -115,6 +115,12 @@ TEST(Vecteur, CrossProductIsPerpendicular) {
     EXPECT_EQ(Vecteur(1, 2, 3) ^ Vecteur(4, 5, 6), Vecteur(-3, 6, -3));
 }
 
+TEST(Vecteur, CrossProductOfTheFirstTwoAxesHasNoNegativeZeros) {
+    const Vecteur product = Vecteur(1, 0, 0) ^ Vecteur(0, 1, 0);
+    EXPECT_FALSE(std::signbit(product.GetCoord(0)));
+    EXPECT_FALSE(std::signbit(product.GetCoord(1)));
+}
+
 TEST(Vecteur, SumAndDifferenceLeaveTheOperands) {
     const Vecteur a(1, 2, 3);
     const Vecteur b(10, 20, 30);
@@ -244,4 +250,8 @@ TEST(Vecteur, PrintsInTheStreamsFormat) {
     std::ostringstream out;
     out << std::fixed << std::setprecision(2) << Vecteur(1, 2, 3);
     EXPECT_EQ(out.str(), " ( 1.00 ; 2.00 ; 3.00 )");
+    std::ostringstream precise;
+    precise << std::setprecision(17) << Vecteur(0.1, 0.2, 0.7);
+    EXPECT_EQ(precise.str(),
+              " ( 0.10000000000000001 ; 0.20000000000000001 ; 0.69999999999999996 )");
 }

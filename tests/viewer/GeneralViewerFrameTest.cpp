@@ -8,6 +8,7 @@
 #include <Inventor/nodes/SoVertexShader.h>
 #include <QGLWidget>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -194,6 +195,19 @@ TEST(GeneralViewerFrame, TitleGoesToTheViewerAndWindowsKeepTheirs) {
     EXPECT_EQ(frame->viewerTitle(), "In U Space");
     EXPECT_EQ(frame->windowTitle(), title);
     EXPECT_EQ(window.windowTitle(), "around");
+}
+
+TEST(GeneralViewerFrame, TitleReachesTheViewerComponent) {
+    QWidget window;
+    window.setWindowTitle("around");
+    QVBoxLayout layout(&window);
+    auto* frame = new ShownFrame;
+    layout.addWidget(frame);
+    frame->initialize();
+    // The component passes its title on to the window around, which is given its own again.
+    const QSignalSpy titles(&window, &QWidget::windowTitleChanged);
+    frame->setTitle("In U Space");
+    EXPECT_EQ(titles, (QList<QVariantList>{{"In U Space"}, {"around"}}));
 }
 
 TEST(GeneralViewerFrame, RefusesToCloseUntilItMay) {
