@@ -62,6 +62,7 @@ std::unique_ptr<Hyperboloid> distinctModel(int space) {
 /** Counts the drawings of the surfaces, U first. */
 std::vector<std::unique_ptr<ReplacementCounter>> surfaceDrawings(const OpenedWindow& opened) {
     std::vector<std::unique_ptr<ReplacementCounter>> drawings;
+    drawings.reserve(3);
     for (int space = 0; space < 3; ++space) {
         drawings.push_back(std::make_unique<ReplacementCounter>(
             SceneReader::drawStyleBranch(*opened.hyperboloid(space).getSceneRoot()),

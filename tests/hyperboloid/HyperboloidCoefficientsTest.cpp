@@ -94,8 +94,8 @@ TEST(HyperboloidCoefficients, LambdaOfAConeHasTheSignThatTheRoundingsLeave) {
     // uHat on the third axis makes b c equal to a d, and k = -(b c - a d)^2 / (4 b d) vanish.
     struct Cone {
         HyperboloidParameters p;
-        bool swapAxes;
-        int sign;
+        bool swapAxes = false;
+        int sign = 1;
     };
     for (const auto& [p, swapAxes, sign] :
          {Cone{{1.86, 3.4, 8.57, 1.06, -0.9, 0.0, 0.0, 2.79}, false, -1},
