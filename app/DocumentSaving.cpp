@@ -11,7 +11,6 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <QCoreApplication>
 #include <QPointer>
-#include <QStatusBar>
 #include <cstdio>
 #include <iostream>
 #include <memory>
@@ -69,6 +68,10 @@ QString notSaved(const QString& fileName, const QString& reason) {
     return text;
 }
 
+QString notSavedAsClosed(const QString& fileName) {
+    return notSaved(fileName, translated("the view has been closed"));
+}
+
 void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
     FileBuffer buffer(file);
     std::ostream stream(&buffer);
@@ -115,7 +118,7 @@ std::optional<QString> DocumentSaving::saveText(SoQtGeneralViewerFrame* frame, b
     if (fileName.isEmpty()) {
         return std::nullopt;
     }
-    return chosen ? writeText(fileName, *chosen, isHyperboloid) : QString();
+    return chosen ? writeText(fileName, *chosen, isHyperboloid) : notSavedAsClosed(fileName);
 }
 
 QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame,
@@ -141,7 +144,7 @@ std::optional<QString> DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, 
         return std::nullopt;
     }
     if (!chosen) {
-        return QString();
+        return notSavedAsClosed(fileName);
     }
     WholeFile file(fileName);
     if (!file.isOpen()) {
@@ -149,10 +152,4 @@ std::optional<QString> DocumentSaving::saveImage(SoQtGeneralViewerFrame* frame, 
         return notSaved(fileName, file.errorString());
     }
     return writeImage(fileName, file, *chosen);
-}
-
-void DocumentSaving::show(const std::optional<QString>& outcome, QStatusBar& bar) {
-    if (outcome) {
-        bar.showMessage(*outcome);
-    }
 }

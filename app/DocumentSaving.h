@@ -3,7 +3,6 @@
 #include <QString>
 #include <optional>
 
-class QStatusBar;
 class QWidget;
 class SoQtGeneralViewerFrame;
 
@@ -18,10 +17,11 @@ namespace DocumentSaving {
  *
  * @param frame null, or a hyperboloid or helix frame as the flag says; with null nothing is asked.
  *              It may die while the user chooses; then nothing is written
- * @return what writeText() returns, empty when the frame has died; none when nothing was asked or
+ * @return what writeText() returns, or that the frame has died; none when nothing was asked or
  *         the user gave up: what has been said before still stands
  */
-std::optional<QString> saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid, QWidget* parent);
+[[nodiscard]] std::optional<QString> saveText(SoQtGeneralViewerFrame* frame, bool isHyperboloid,
+                                              QWidget* parent);
 
 /**
  * Writes a frame's numbers to a file, see DataExport. A file that cannot be opened is passed over.
@@ -38,12 +38,9 @@ QString writeText(const QString& fileName, const SoQtGeneralViewerFrame& frame, 
  * @param frame the frame, which may die while the user chooses; without one, or with one that has
  *              no viewer, only a warning is shown
  * @return what to tell the user: that the file has been saved, or why it has not, which is on
- *         standard error too; a file that cannot be opened is warned of besides. Empty when the
- *         frame has died; none when nothing was asked or the user gave up
+ *         standard error too; a file that cannot be opened is warned of besides. None when
+ *         nothing was asked or the user gave up
  */
-std::optional<QString> saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
-
-/** Shows in a status bar what to tell the user; with nothing to tell, what stands there stays. */
-void show(const std::optional<QString>& outcome, QStatusBar& bar);
+[[nodiscard]] std::optional<QString> saveImage(SoQtGeneralViewerFrame* frame, QWidget* parent);
 
 } // namespace DocumentSaving

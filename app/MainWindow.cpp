@@ -21,6 +21,7 @@
 MainWindow::MainWindow()
     : mdiArea(new QMdiArea)
     , documents(*mdiArea, *this)
+    , statusMessage(*this)
     , statusLabels(*statusBar()) {
     setCentralWidget(mdiArea);
     connect(mdiArea, SIGNAL(subWindowActivated(QMdiSubWindow*)), this, SLOT(updateMenus()));
@@ -56,7 +57,7 @@ void MainWindow::createMenus() {
 }
 
 void MainWindow::createStatusBar() {
-    statusBar()->showMessage(tr("Ready"));
+    statusMessage.say(tr("Ready"));
 }
 
 void MainWindow::readSettings() {
@@ -232,15 +233,15 @@ void MainWindow::saveMHyperboloidData() {
 }
 
 void MainWindow::saveObjData(SoQtGeneralViewerFrame* obj, bool hypo) {
-    DocumentSaving::show(DocumentSaving::saveText(obj, hypo, this), *statusBar());
+    statusMessage.say(DocumentSaving::saveText(obj, hypo, this));
 }
 
 void MainWindow::saveIn(QString fileName, SoQtGeneralViewerFrame* frame, bool isHyperboloid) {
-    DocumentSaving::show(DocumentSaving::writeText(fileName, *frame, isHyperboloid), *statusBar());
+    statusMessage.say(DocumentSaving::writeText(fileName, *frame, isHyperboloid));
 }
 
 void MainWindow::saveCurrentImage() {
-    DocumentSaving::show(DocumentSaving::saveImage(activeFrames.current(), this), *statusBar());
+    statusMessage.say(DocumentSaving::saveImage(activeFrames.current(), this));
 }
 
 bool MainWindow::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerViewer* viewer,

@@ -4,6 +4,7 @@
 #include "app/Commands.h"
 #include "app/Documents.h"
 #include "app/StatusLabels.h"
+#include "app/StatusMessage.h"
 #include "app/WindowMenu.h"
 #include "viewer/FrameOwner.h"
 
@@ -124,6 +125,7 @@ private:
     QMdiArea* mdiArea;
     ActiveFrames activeFrames;
     Documents documents;
+    StatusMessage statusMessage;
     StatusLabels statusLabels;
     Commands commands;
     std::unique_ptr<WindowMenu> windowMenu;

@@ -49,7 +49,11 @@ QString systemError() {
 
 /** Some file systems notice only now that they are full; pipes and devices know no such thing. */
 bool reachesTheDisk(int handle) {
-    return fsync(handle) == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
+    int result = 0;
+    do {
+        result = fsync(handle);
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
 }
 
 } // namespace
@@ -65,7 +69,7 @@ WholeFile::WholeFile(const QString& fileName)
             failure = direct.errorString();
         }
     } else if (const fs::path target = behindLinks(path, error); error) {
-        failure = QString::fromStdString(error.message());
+        failure = QString::fromLocal8Bit(error.message().c_str());
     } else {
         openBeside(target);
     }
@@ -93,7 +97,11 @@ void WholeFile::write(const char* text, std::size_t size) {
     std::size_t written = 0;
     while (failure.isEmpty() && written < size) {
         const ssize_t count = ::write(handle(), text + written, size - written);
-        if (count >= 0) {
+        if (count == 0) {
+            // A device that takes nothing would be asked for ever.
+            errno = EIO;
+        }
+        if (count > 0) {
             written += static_cast<std::size_t>(count);
         } else if (errno != EINTR) {
             failure = systemError();

@@ -8,9 +8,9 @@
  * one, by the edge of the screen or of the window around it. When a part of it comes to light, it
  * counts as uncovered before the toolkit paints it.
  *
- * The X server knows. Under a window manager that composes the screen itself it does not count what
- * lies over a program's windows; there, and on other window systems, nothing is known to be
- * covered.
+ * The X server knows, and tells of every change. Under a window manager that composes the screen
+ * itself it does not count what lies over a program's windows; there, without GLX, and on other
+ * window systems, nothing is known to be covered.
  */
 class WindowCover : public QAbstractNativeEventFilter {
 public:

@@ -26,6 +26,7 @@ protected:
 
     QTemporaryDir folder;
     QWidget parent;
+    std::optional<QString> outcome = "said before";
     std::unique_ptr<HyperboloidFrame> x = BareFrames::hyperboloid(Hyperboloid::XSPACE);
     std::unique_ptr<HelixFrame> helix = BareFrames::helix();
 };
@@ -79,7 +80,8 @@ TEST_F(DocumentSavingTest, ChosenFileGetsTheTextAndItsSuffix) {
             EXPECT_EQ(dialog.parent(), &parent);
             FileDialogs::saveAs(dialog, folder.filePath("name"));
         })
-        .during([&] { DocumentSaving::saveText(helix.get(), false, &parent); });
+        .during([&] { outcome = DocumentSaving::saveText(helix.get(), false, &parent); });
+    EXPECT_EQ(outcome, "Saved " + folder.filePath("name.txt"));
     EXPECT_EQ(names(), QStringList("name.txt"));
     EXPECT_EQ(contentOf("name.txt"), plainText(*helix));
 }
@@ -90,12 +92,21 @@ TEST_F(DocumentSavingTest, FrameThatDiesWhileTheUserChoosesLeavesNoFile) {
             x.reset();
             FileDialogs::saveAs(dialog, folder.filePath("dead.txt"));
         })
-        .during([&] { DocumentSaving::saveText(x.get(), true, &parent); });
+        .during([&] { outcome = DocumentSaving::saveText(x.get(), true, &parent); });
+    EXPECT_EQ(outcome, "Not saved: " + folder.filePath("dead.txt") + " (the view has been closed)");
     EXPECT_EQ(names(), QStringList());
 }
 
+TEST_F(DocumentSavingTest, WhoGivesUpIsToldNothing) {
+    DialogDriver().then<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); }).during([&] {
+        outcome = DocumentSaving::saveText(x.get(), true, &parent);
+    });
+    EXPECT_EQ(outcome, std::nullopt);
+}
+
 TEST_F(DocumentSavingTest, WithoutAFrameNothingIsAskedForText) {
-    DialogDriver().during([&] { DocumentSaving::saveText(nullptr, true, &parent); });
+    DialogDriver().during([&] { outcome = DocumentSaving::saveText(nullptr, true, &parent); });
+    EXPECT_EQ(outcome, std::nullopt);
 }
 
 TEST_F(DocumentSavingTest, ImageNeedsAFrameWithAViewer) {
@@ -108,6 +119,8 @@ TEST_F(DocumentSavingTest, ImageNeedsAFrameWithAViewer) {
                 EXPECT_EQ(box.parent(), &parent);
                 box.accept();
             })
-            .during([&] { DocumentSaving::saveImage(frame, &parent); });
+            .during([&] { outcome = DocumentSaving::saveImage(frame, &parent); });
+        EXPECT_EQ(outcome, std::nullopt);
+        outcome = "said before";
     }
 }

@@ -11,6 +11,7 @@
 #include "helix/Helix.h"
 #include "tests/app/BareFrames.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/FileDialogs.h"
 #include "tests/support/MarkingTranslator.h"
 
 #include <QAction>
@@ -23,6 +24,7 @@
 #include <QPushButton>
 #include <QSplashScreen>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -128,7 +130,32 @@ TEST(Translation, KindOfTextFileIsTranslated) {
             EXPECT_EQ(dialog.nameFilters(), QStringList("QMainWindow/Text (*.txt)"));
             dialog.reject();
         })
-        .during([&] { DocumentSaving::saveText(x.get(), true, &parent); });
+        .during([&] { (void)DocumentSaving::saveText(x.get(), true, &parent); });
+}
+
+TEST(Translation, WhatCameOfSavingBelongsToTheMainWindow) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("x.txt");
+    QWidget parent;
+    auto x = BareFrames::hyperboloid(Hyperboloid::XSPACE);
+    const MarkingTranslator translator;
+    EXPECT_EQ(DocumentSaving::writeText(path, *x, true), "MainWindow/Saved " + path);
+    std::optional<QString> said;
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            x.reset();
+            FileDialogs::saveAs(dialog, folder.filePath("dead.txt"));
+        })
+        .then<QMessageBox>([](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "MainWindow/Select a Viewer");
+            box.accept();
+        })
+        .during([&] {
+            said = DocumentSaving::saveText(x.get(), true, &parent);
+            (void)DocumentSaving::saveImage(nullptr, &parent);
+        });
+    EXPECT_EQ(said, "MainWindow/Not saved: " + folder.filePath("dead.txt") +
+                        " (MainWindow/the view has been closed)");
 }
 
 TEST(Translation, BrokenConditionIsSaidAsItIsAndItsButtonTranslated) {

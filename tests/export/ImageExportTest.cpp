@@ -113,6 +113,24 @@ TEST_F(ImageExportTest, KindOfFileIsTranslated) {
         .during([&] { opened.action("saveImageAct").trigger(); });
 }
 
+TEST_F(ImageExportTest, WhatHinderedItIsTranslated) {
+    closeAfterwards();
+    const MarkingTranslator translator;
+    const QString missing = folder.filePath("missing/view.eps");
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) { FileDialogs::saveAs(dialog, missing); })
+        .then<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.text(), "MainWindow/The file " + missing + " cannot be written.");
+            box.accept();
+        })
+        .during([&] { opened.action("saveImageAct").trigger(); });
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    u.getViewer()->setViewportRegion(SbViewportRegion(50, 400));
+    EXPECT_EQ(save(u, path()), "ok? 0\n");
+    EXPECT_EQ(status(),
+              "MainWindow/Not saved: " + path() + " (MainWindow/the view cannot be rendered)");
+}
+
 TEST_F(ImageExportTest, FileHasItsHeaderAndItsSize) {
     closeAfterwards();
     HyperboloidFrame& u = opened.hyperboloid(0);
@@ -264,7 +282,30 @@ TEST_F(ImageExportTest, FrameThatIsClosedWhileTheUserChoosesLeavesNoFile) {
         .during([&] { opened.action("saveImageAct").trigger(); });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_FALSE(QFile::exists(path()));
-    EXPECT_EQ(status(), "");
+    EXPECT_EQ(status(), "Not saved: " + path() + " (the view has been closed)");
+}
+
+TEST_F(ImageExportTest, PictureThatCannotTakeItsPlaceAfterAllIsNotCalledSaved) {
+    closeAfterwards();
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    // While the picture is drawn, a folder takes its name.
+    QString place = path();
+    auto* obstacle = new SoCallback;
+    obstacle->setCallback(
+        [](void* folderPath, SoAction*) { QDir().mkpath(*static_cast<QString*>(folderPath)); },
+        &place);
+    opened.activate(u);
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    DialogDriver()
+        .then<QFileDialog>([&](QFileDialog& dialog) {
+            FileDialogs::saveAs(dialog, path());
+            u.getSceneRoot()->addChild(obstacle);
+        })
+        .during([&] { opened.action("saveImageAct").trigger(); });
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "ok? 0\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), status().toStdString() + "\n");
+    EXPECT_EQ(status(), "Not saved: " + path() + " (Is a directory)");
 }
 
 TEST_F(ImageExportTest, WhatIsNoFileOfItsOwnStaysWhenTheExportFails) {
@@ -295,9 +336,10 @@ TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
         .then<QFileDialog>([&](QFileDialog& dialog) {
             FileDialogs::saveAs(dialog, folder.filePath("missing/view.eps"));
         })
-        .then<QMessageBox>([](QMessageBox& box) {
+        .then<QMessageBox>([&](QMessageBox& box) {
             EXPECT_EQ(box.icon(), QMessageBox::Warning);
-            EXPECT_TRUE(box.text().contains("cannot be written"));
+            EXPECT_EQ(box.text(),
+                      "The file " + folder.filePath("missing/view.eps") + " cannot be written.");
             box.accept();
         })
         .during([&] { opened.action("saveImageAct").trigger(); });
@@ -321,7 +363,7 @@ TEST_F(ImageExportTest, CancelledDialogWritesNothing) {
 TEST(ImageExportWithoutDocuments, IsRefusedWithAWarning) {
     MainWindow window;
     DialogDriver()
-        .then<QMessageBox>([](QMessageBox& box) {
+        .then<QMessageBox>([&](QMessageBox& box) {
             EXPECT_EQ(box.icon(), QMessageBox::Warning);
             box.accept();
         })

@@ -44,7 +44,10 @@ TEST_F(RefusedContextsTest, PictureFailsWritesNothingAndTheViewsGoOn) {
     EXPECT_EQ(status, "Not saved: " + path() + " (the view cannot be rendered)");
     EXPECT_TRUE(said.endsWith(status + "\n")) << "after the library's own words";
     EXPECT_FALSE(QFile::exists(path()));
-    EXPECT_TRUE(opened.waitUntilAllViewsAreDrawn());
+    const QImage before = ViewDriver(u).grab();
+    u.toggleDrawStyle();
+    EXPECT_TRUE(waitUntil([&] { return ViewDriver(u).grab() != before; }));
+    EXPECT_TRUE(ViewDriver(u).isDrawn());
 }
 
 TEST_F(RefusedContextsTest, CurrentContextStays) {

@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QThread>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -166,6 +167,7 @@ TEST_F(Saving, CancelledDialogWritesNothing) {
 }
 
 TEST_F(Saving, CancelledDialogLeavesWhatTheStatusBarSays) {
+    closeAfterwards();
     opened.window().refresh_hyperboloids(1, 1.5, 1, 0, 0.5, 1, 0, 0, 8, 8, 0.3, 7, 7, 0.02, 0.03);
     save("saveUAct", folder.filePath("first.txt"));
     const QString condition = opened.label("surfaceConditionLabel");
@@ -210,7 +212,9 @@ TEST_F(Saving, OlderTextStaysWhenTheDiskIsFullAndTheUserIsTold) {
     const QString path = folder.filePath("text.txt");
     save("saveUAct", path);
     const QByteArray older = contentOf(path);
-    const LargestFileSize limit(5000);
+    const int smallest = std::min(plainText(opened.hyperboloid(Hyperboloid::MSPACE)).size(),
+                                  plainText(opened.firstHelix()).size());
+    const LargestFileSize limit(static_cast<rlim_t>(smallest) / 2);
     for (const bool hyperboloid : {true, false}) {
         SoQtGeneralViewerFrame* frame = &opened.firstHelix();
         testing::internal::CaptureStderr();
@@ -233,7 +237,8 @@ TEST_F(Saving, HelixThatIsClosedWhileTheUserChoosesLeavesNoFile) {
         })
         .during([&] { opened.action("saveHelixAct").trigger(); });
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
-    EXPECT_EQ(status(), "");
+    EXPECT_EQ(status(),
+              "Not saved: " + folder.filePath("dead.txt") + " (the view has been closed)");
 }
 
 TEST(SavingWithoutDocuments, HelixShowsTheSameWarning) {

@@ -19,6 +19,7 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -39,6 +40,16 @@ bool breakDisk() {
     const sock_fprog program{rules.size(), rules.data()};
     return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
            prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+/** Whether the system lets a process have such rules; tried in one that ends at once. */
+bool canBreakDisk() {
+    const pid_t child = fork();
+    if (child == 0) {
+        std::_Exit(breakDisk() ? 0 : 1);
+    }
+    int status = 0;
+    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 std::atomic<int> interruptions{0};
@@ -100,22 +111,16 @@ TEST(SystemCalls, FileThatDoesNotReachTheDiskLeavesTheOlderOne) {
     ASSERT_TRUE(older.open(QIODevice::WriteOnly));
     older.write("older");
     older.close();
-    constexpr int notAllowed = 77;
+    if (!canBreakDisk()) {
+        GTEST_SKIP() << "no process here may narrow its own system calls";
+    }
     const auto save = [&] {
         WholeFile file(path);
-        if (!breakDisk()) {
-            std::_Exit(notAllowed);
-        }
+        ASSERT_TRUE(breakDisk());
         file.write("newer", 5);
         std::_Exit(!file.commit() && file.errorString() == "Input/output error" ? 0 : 1);
     };
-    EXPECT_EXIT(
-        save(),
-        [](int status) {
-            return WIFEXITED(status) &&
-                   (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == notAllowed);
-        },
-        "");
+    EXPECT_EXIT(save(), testing::ExitedWithCode(0), "");
     EXPECT_EQ(contentOf(path), "older");
 }
 
