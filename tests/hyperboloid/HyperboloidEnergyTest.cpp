@@ -108,6 +108,9 @@ TEST(HyperboloidColors, DarkLightnessTakesTheOtherFormulaOfTheHighestChannel) {
     expectColor(colorOf(0.8, 0.25, 1.0F), 0.45F, 0.05F, 0.05F);
     // q = 0.75 + 0.8 - 0.6 = 0.95, p = 0.55
     expectColor(colorOf(0.8, 0.75, 1.0F), 0.95F, 0.55F, 0.55F);
+    // On either side of 1/2, where the formulas part.
+    expectColor(colorOf(0.8, 0.4997, 1.0F), 0.89946F, 0.09994F, 0.09994F);
+    expectColor(colorOf(0.8, 0.5003, 1.0F), 0.90006F, 0.10054F, 0.10054F);
 }
 
 TEST(HyperboloidColors, WithoutSaturationEveryEnergyIsTheGreyOfTheLightness) {

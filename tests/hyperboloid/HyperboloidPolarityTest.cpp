@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -13,10 +14,10 @@
 namespace {
 
 /** Surfaces along either axis, with three different semi-axes. */
-constexpr HyperboloidParameters surfaces[] = {
+constexpr std::array<HyperboloidParameters, 2> surfaces{{
     {0.9, 1.8, 0.5, -0.6, 0.35, -1.0, 0.4, 0.7},
     {1.3, 2.9, 0.1, -0.45, -0.8, 0.2, 0.9, -0.6},
-};
+}};
 
 HyperboloidSpaces spacesOf(const ExposedHyperboloid& model) {
     return {model.rotationMatrix, model.shift, model.KMatrix, model.U};
@@ -70,8 +71,7 @@ private:
     std::mt19937 random{20011};
 };
 
-class HyperboloidPolarityIn
-    : public testing::TestWithParam<std::tuple<HyperboloidParameters, int>> {
+class HyperboloidPolarityIn : public testing::TestWithParam<std::tuple<std::size_t, int>> {
 protected:
     Triple toSpace(const Triple& x) const {
         const HyperboloidSpaces spaces = spacesOf(model);
@@ -84,7 +84,7 @@ protected:
     }
 
     const int space = std::get<1>(GetParam());
-    const ExposedHyperboloid model{std::get<0>(GetParam()), space};
+    const ExposedHyperboloid model{surfaces.at(std::get<0>(GetParam())), space};
     const HyperboloidPolarity polarity{model.semiAxis, model.swapAxes, spacesOf(model), space};
     Lines lines;
 };
@@ -135,7 +135,7 @@ TEST_P(HyperboloidPolarityIn, ItsPlaneHalvesParallelLinesOfSight) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BothAxes, HyperboloidPolarityIn,
-                         testing::Combine(testing::ValuesIn(surfaces), testing::Range(0, 3)));
+                         testing::Combine(testing::Values(0U, 1U), testing::Range(0, 3)));
 
 TEST(HyperboloidPolarity, WithoutASurfaceAllIsNear) {
     const SbVec4d nothing(0, 0, 0, 0);
