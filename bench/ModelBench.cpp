@@ -1,6 +1,6 @@
 // What the models compute, the plain computation beside ours.
 
-#include "app/DataExport.h"
+#include "export/DataExport.h"
 #include "bench/RatioReporter.h"
 #include "helix/Helix.h"
 #include "hyperboloid/Hyperboloid.h"

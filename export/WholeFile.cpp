@@ -1,4 +1,4 @@
-#include "app/WholeFile.h"
+#include "export/WholeFile.h"
 
 #include <QFileInfo>
 #include <cerrno>
@@ -89,16 +89,7 @@ int WholeFile::handle() const {
 }
 
 void WholeFile::write(const char* text, std::size_t size) {
-    // Not by way of the toolkit, which takes the half that found room for the whole.
-    std::size_t written = 0;
-    while (failure.isEmpty() && written < size) {
-        const ssize_t count = ::write(handle(), text + written, size - written);
-        if (count >= 0) {
-            written += static_cast<std::size_t>(count);
-        } else if (errno != EINTR) {
-            failure = systemError();
-        }
-    }
+    writeTo(handle(), text, size);
 }
 
 bool WholeFile::isWritableInPlace() const {
