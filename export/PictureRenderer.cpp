@@ -1,7 +1,10 @@
 #include "export/PictureRenderer.h"
 
+#include "export/ByteTarget.h"
 #include "export/EpsHeader.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <cstdlib>
 #include <string_view>
 
@@ -69,4 +72,22 @@ bool PictureRenderer::writePostScript(std::FILE* file) {
         EpsHeader::correct(written.content(), pictureSize.pixels, pictureSize.dotsPerInch);
     return corrected && write(corrected->header, file) && write(corrected->rest, file) &&
            std::fflush(file) == 0;
+}
+
+bool PictureRenderer::writePng(ByteTarget& target) const {
+    constexpr int bytesPerPixel = 3;
+    constexpr double inchesPerMetre = 1 / 0.0254;
+    const int width = pictureSize.pixels[0];
+    QImage image = QImage(renderer.getBuffer(), width, pictureSize.pixels[1], width * bytesPerPixel,
+                          QImage::Format_RGB888)
+                       .mirrored();
+    const int dotsPerMetre = qRound(pictureSize.dotsPerInch * inchesPerMetre);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    QBuffer buffer;
+    if (!image.save(&buffer, "PNG")) {
+        return false;
+    }
+    target.write(buffer.data().constData(), static_cast<std::size_t>(buffer.size()));
+    return target.errorString().isEmpty();
 }

@@ -6,6 +6,7 @@
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <cstdio>
 
+class ByteTarget;
 class SoNode;
 
 /**
@@ -21,10 +22,10 @@ public:
         int dotsPerInch;
     };
 
-    /** What is drawn in the same way in every picture. */
+    /** What is drawn in the same way in every picture; new, it is that of a new view. */
     struct Manner {
-        SbColor background;
-        SoGLRenderAction::TransparencyType transparency;
+        SbColor background{0, 0, 0};
+        SoGLRenderAction::TransparencyType transparency = SoGLRenderAction::BLEND;
     };
 
     PictureRenderer(const Size& size, const Manner& manner);
@@ -39,6 +40,12 @@ public:
      * decimal separator of the C library's locale does not matter.
      */
     bool writePostScript(std::FILE* file);
+
+    /** Writes the picture that was drawn last as PNG; false when it fails, as above. */
+    bool writePng(ByteTarget& target) const;
+
+    /** What pictures are drawn into. */
+    const SbViewportRegion& region() const { return renderer.getViewportRegion(); }
 
 private:
     Size pictureSize;
