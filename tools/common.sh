@@ -5,7 +5,8 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 viewer_packages=(
-    libcoin-dev libsoqt520-dev qtbase5-dev libqt5opengl5-dev libboost-dev cmake ninja-build g++)
+    libcoin-dev libsoqt520-dev qtbase5-dev libqt5opengl5-dev libboost-dev libegl-dev libcli11-dev
+    cmake ninja-build g++)
 virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
@@ -67,7 +68,7 @@ memcheck() {
     shift
     local program
     local filter='--gtest_filter=-*FinestGrid*:*FineGrids*:*PicksExactlyWhat*'
-    for program in "$folder"/bin/{math,helix,scene,hyperboloid,document_scene,data_text,resources,shrinking}_test; do
+    for program in "$folder"/bin/{math,helix,scene,hyperboloid,document_scene,data_text,resources,shrinking,batch}_test; do
         echo "memcheck $program"
         valgrind --quiet --error-exitcode=1 --track-origins=yes "$program" --gtest_brief=1 "$filter" "$@"
     done
@@ -77,8 +78,8 @@ memcheck() {
 print_coverage() {
     local folder=$1 layer
     local report=(gcovr --root . --object-directory "$folder" --exclude-unreachable-branches)
-    for layer in math helix hyperboloid scene viewer app; do
+    for layer in math helix hyperboloid scene viewer export app batch; do
         echo "$layer: $("${report[@]}" --filter "$layer/" --print-summary | grep '^lines')"
     done
-    "${report[@]}" --filter '(math|helix|hyperboloid|scene|viewer|app)/' --print-summary
+    "${report[@]}" --filter '(math|helix|hyperboloid|scene|viewer|export|app|batch)/' --print-summary
 }
