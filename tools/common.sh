@@ -11,7 +11,7 @@ virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
-    valgrind)
+    valgrind time)
 check_packages=(clang-format clang-tidy shellcheck git)
 coverage_packages=(gcovr)
 
