@@ -1,6 +1,7 @@
 #include "batch/BatchRun.h"
 
 #include "batch/CommandLine.h"
+#include "batch/Interruption.h"
 #include "batch/ListedCommand.h"
 #include "batch/ModelSet.h"
 #include "batch/Numbers.h"
@@ -56,8 +57,14 @@ private:
 std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) {
     Production production(options);
     const ProgressLine progress(sets.size());
+    const Interruption interruption;
     std::vector<std::string> failures;
     for (std::size_t i = 0; i < sets.size(); ++i) {
+        if (interruption.isAskedFor()) {
+            failures.push_back("Interrupted: " + std::to_string(sets.size() - i) + " of " +
+                               std::to_string(sets.size()) + " sets are not made");
+            break;
+        }
         const std::string values = sweptValues(options, sets[i]);
         progress.show(i, values);
         for (const std::string& failure : production.make(sets[i])) {

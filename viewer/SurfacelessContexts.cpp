@@ -78,7 +78,7 @@ public:
         return true;
     }
 
-    void reinstatePrevious() { bind(previous); }
+    void reinstatePrevious() { static_cast<void>(bind(previous)); }
 
 private:
     static constexpr std::size_t coinRecordSize = 128;

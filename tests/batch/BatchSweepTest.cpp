@@ -97,3 +97,27 @@ TEST_F(BatchSweepTest, TerminalShowsHowFarItIs) {
     EXPECT_TRUE(shown.contains("2 of 3: K13 = 0.375\r"));
     EXPECT_TRUE(shown.endsWith("3 of 3: K13 = 0.5\r\033[K"));
 }
+
+TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {
+    QProcess process;
+    process.setProcessEnvironment(BatchProgram::bareEnvironment());
+    process.setWorkingDirectory(folder.path());
+    process.start(TORVANE_BATCH,
+                  {"--sweep", "K13=-0.5:0.5:100000", "--text", "U={K13}", "--text", "X=x{K13}"});
+    ASSERT_TRUE(process.waitForStarted());
+    while (files().isEmpty() && process.state() == QProcess::Running) {
+        process.waitForReadyRead(1);
+    }
+    process.terminate();
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QStringList made = files();
+    const int setCount = made.size() / 2;
+    EXPECT_EQ(process.readAllStandardError().toStdString(),
+              QString("Interrupted: %1 of 100000 sets are not made\n")
+                  .arg(100000 - setCount)
+                  .toStdString());
+    const QByteArray last = contentOf(folder.filePath("x" + made.first()));
+    EXPECT_EQ(last.count('\n'), 18 + 64 * 64);
+}
