@@ -67,8 +67,9 @@ std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) 
         }
         const std::string values = sweptValues(options, sets[i]);
         progress.show(i, values);
+        const std::string place = values.empty() ? values : values + ": ";
         for (const std::string& failure : production.make(sets[i])) {
-            failures.push_back(values.empty() ? failure : values + ": " + failure);
+            failures.push_back(place + failure);
         }
     }
     return failures;

@@ -21,8 +21,9 @@ SbRotation orientationOf(const Viewpoint& viewpoint) {
     SbVec3f right = viewpoint.up.cross(back);
     right.normalize();
     const SbVec3f up = back.cross(right);
-    return SbRotation(SbMatrix(right[0], right[1], right[2], 0, up[0], up[1], up[2], 0, back[0],
-                               back[1], back[2], 0, 0, 0, 0, 1));
+    const SbMatrix axes(right[0], right[1], right[2], 0, up[0], up[1], up[2], 0, back[0], back[1],
+                        back[2], 0, 0, 0, 0, 1);
+    return {axes};
 }
 
 void seeAll(SoCamera& camera, SoNode& scene) {

@@ -108,7 +108,7 @@ Output OptionTexts::output(Output::Kind kind, const std::string& text) {
     if (sign == std::string::npos || sign + 1 == text.size()) {
         refuse(text + " is not DOCUMENT=FILE");
     }
-    const Output output{kind, document(text.substr(0, sign)), text.substr(sign + 1)};
+    Output output{kind, document(text.substr(0, sign)), text.substr(sign + 1)};
     FileName::parametersIn(output.file);
     OutputFormat::of(output);
     return output;

@@ -14,7 +14,12 @@ enum class Format {
     vrml
 };
 
-/** Writes a scene to an open file. */
-void write(SoNode& scene, Format format, std::FILE* file);
+/**
+ * Writes a scene to an open file.
+ *
+ * @return false, and nothing is written, for VRML when a point is not finite: the library's
+ *         conversion would look for it for ever
+ */
+bool write(SoNode& scene, Format format, std::FILE* file);
 
 } // namespace SceneExport

@@ -134,3 +134,13 @@ TEST_F(BatchProgramTest, FullStandardOutputIsToldAndAllElseIsMade) {
     EXPECT_EQ(process.readAllStandardError(), "Not made: - (No space left on device)\n");
     EXPECT_EQ(files(), QStringList("x.txt"));
 }
+
+TEST_F(BatchProgramTest, PointsThatAreNowhereAreNotForVrml) {
+    const BatchProgram ended = run({"--K2", "1", "--grid", "9x9", "--scene", "U=u.wrl", "--scene",
+                                    "U=u.iv", "--text", "U=u.txt"});
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_TRUE(
+        ended.errors.endsWith("Not made: u.wrl (VRML cannot hold points that are not finite)\n"))
+        << ended.errors.constData();
+    EXPECT_EQ(files(), (QStringList{"u.iv", "u.txt"}));
+}
