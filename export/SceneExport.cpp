@@ -9,7 +9,11 @@
 #include <Inventor/actions/SoToVRML2Action.h>
 #include <Inventor/actions/SoWriteAction.h>
 #include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoTransform.h>
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace {
 
@@ -18,42 +22,54 @@ void writeNodes(SoNode& scene, SoOutput& output) {
     action.apply(&scene);
 }
 
-bool hasFinitePoints(const SoCoordinate3& coordinates) {
+bool isSomewhere(const SoCoordinate3& coordinates) {
     const SbVec3f* const points = coordinates.point.getValues(0);
     return std::all_of(points, points + coordinates.point.getNum(),
                        [](const SbVec3f& point) { return isFinite(point); });
 }
 
-bool hasFinitePoints(SoNode& scene) {
+bool isSomewhere(const SoTransform& place) {
+    SbVec3f axis;
+    float angle = 0;
+    place.rotation.getValue(axis, angle);
+    return isFinite(place.translation.getValue()) && isFinite(axis) && std::isfinite(angle);
+}
+
+/** Empties the groups that a node of a type makes lie nowhere. */
+template <typename Node>
+void emptyWhatIsNowhere(SoNode& scene) {
     SoSearchAction search;
-    search.setType(SoCoordinate3::getClassTypeId());
+    search.setType(Node::getClassTypeId());
     search.setInterest(SoSearchAction::ALL);
     search.apply(&scene);
     const SoPathList& paths = search.getPaths();
+    std::vector<NodePointer<SoGroup>> parts;
     for (int i = 0; i < paths.getLength(); ++i) {
-        if (!hasFinitePoints(*static_cast<const SoCoordinate3*>(paths[i]->getTail()))) {
-            return false;
+        const SoPath& path = *paths[i];
+        if (!isSomewhere(*static_cast<const Node*>(path.getTail()))) {
+            parts.emplace_back(static_cast<SoGroup*>(path.getNodeFromTail(1)));
         }
     }
-    return true;
+    for (const NodePointer<SoGroup>& part : parts) {
+        part->removeAllChildren();
+    }
 }
 
 } // namespace
 
-bool SceneExport::write(SoNode& scene, Format format, std::FILE* file) {
+void SceneExport::write(SoNode& scene, Format format, std::FILE* file) {
     SoOutput output;
     output.setFilePointer(file);
     if (format == Format::openInventor) {
         writeNodes(scene, output);
-        return true;
-    }
-    if (!hasFinitePoints(scene)) {
-        return false;
+        return;
     }
     SoToVRML2Action conversion;
-    conversion.apply(&scene);
+    const NodePointer<SoNode> copy(scene.copy());
+    emptyWhatIsNowhere<SoCoordinate3>(*copy);
+    emptyWhatIsNowhere<SoTransform>(*copy);
+    conversion.apply(copy.get());
     const NodePointer<SoVRMLGroup> converted(conversion.getVRML2SceneGraph());
     output.setHeaderString("#VRML V2.0 utf8");
     writeNodes(*converted, output);
-    return true;
 }

@@ -10,16 +10,14 @@ namespace SceneExport {
 enum class Format {
     /** Open Inventor, as text (.iv). */
     openInventor,
-    /** VRML97 (.wrl), which knows no shaders. */
+    /**
+     * VRML97 (.wrl), which knows no shaders. Left out is what is at no finite place: nobody
+     * could show it, and the library's conversion would look for such a point for ever.
+     */
     vrml
 };
 
-/**
- * Writes a scene to an open file.
- *
- * @return false, and nothing is written, for VRML when a point is not finite: the library's
- *         conversion would look for it for ever
- */
-bool write(SoNode& scene, Format format, std::FILE* file);
+/** Writes a scene to an open file. */
+void write(SoNode& scene, Format format, std::FILE* file);
 
 } // namespace SceneExport
