@@ -2,22 +2,14 @@
 
 #include "batch/Numbers.h"
 
-#include <regex>
-
-namespace {
-
-const std::regex& braced() {
-    static const std::regex pattern("\\{([^{}]*)\\}");
-    return pattern;
-}
-
-} // namespace
-
 std::vector<const HyperboloidParameter*> FileName::parametersIn(const std::string& pattern) {
     std::vector<const HyperboloidParameter*> found;
-    for (std::sregex_iterator match(pattern.begin(), pattern.end(), braced()), end; match != end;
-         ++match) {
-        found.push_back(&HyperboloidParameter::named((*match)[1].str()));
+    std::size_t start = pattern.find('{');
+    std::size_t end = pattern.find('}', start);
+    while (end != std::string::npos) {
+        found.push_back(&HyperboloidParameter::named(pattern.substr(start + 1, end - start - 1)));
+        start = pattern.find('{', end);
+        end = pattern.find('}', start);
     }
     return found;
 }

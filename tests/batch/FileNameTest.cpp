@@ -18,4 +18,7 @@ TEST(FileName, NamesInBracesAreThoseOfParameters) {
     EXPECT_EQ(named[1]->name, "point-radius");
     EXPECT_THROW(FileName::parametersIn("{K14}.txt"), std::invalid_argument);
     EXPECT_THROW(FileName::parametersIn("{}.txt"), std::invalid_argument);
+    for (const char* unpaired : {"plain", "}K13{", "{K13", "K13}"}) {
+        EXPECT_TRUE(FileName::parametersIn(unpaired).empty()) << unpaired;
+    }
 }
