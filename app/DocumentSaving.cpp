@@ -1,9 +1,10 @@
 #include "app/DocumentSaving.h"
 
-#include "app/DataExport.h"
 #include "app/ImageExport.h"
 #include "app/Messages.h"
-#include "app/WholeFile.h"
+#include "export/DataExport.h"
+#include "export/TargetStreams.h"
+#include "export/WholeFile.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
@@ -11,47 +12,12 @@
 #include <Inventor/nodes/SoSeparator.h>
 #include <QCoreApplication>
 #include <QPointer>
-#include <cstdio>
 #include <iostream>
-#include <memory>
 #include <ostream>
-#include <streambuf>
-#include <sys/types.h>
 
 namespace {
 
 constexpr int printerDotsPerInch = 300;
-
-/** Lets a C++ stream write to a file, which remembers its first failure. */
-class FileBuffer : public std::streambuf {
-public:
-    explicit FileBuffer(WholeFile& target)
-        : file(target) {}
-
-protected:
-    std::streamsize xsputn(const char* text, std::streamsize count) override {
-        file.write(text, static_cast<std::size_t>(count));
-        return count;
-    }
-
-private:
-    WholeFile& file;
-};
-
-ssize_t writeToFile(void* file, const char* text, std::size_t size) {
-    auto& target = *static_cast<WholeFile*>(file);
-    target.write(text, size);
-    return target.errorString().isEmpty() ? static_cast<ssize_t>(size) : 0;
-}
-
-using CStream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-/** A C stream that writes to a file, which remembers its first failure; null without memory. */
-CStream cStreamTo(WholeFile& file) {
-    cookie_io_functions_t functions{};
-    functions.write = writeToFile;
-    return {fopencookie(&file, "w", functions), std::fclose};
-}
 
 QString translated(const char* text) {
     return QCoreApplication::translate("MainWindow", text);
@@ -73,7 +39,7 @@ QString notSavedAsClosed(const QString& fileName) {
 }
 
 void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
-    FileBuffer buffer(file);
+    TargetBuffer buffer(file);
     std::ostream stream(&buffer);
     if (isHyperboloid) {
         DataExport::writeHyperboloid(stream, *qobject_cast<const HyperboloidFrame*>(&frame));

@@ -1,6 +1,7 @@
 #include "app/HelixChanges.h"
 
 #include "helix/HelixFrame.h"
+#include "helix/HelixParameter.h"
 
 namespace {
 
@@ -14,11 +15,11 @@ void change(HelixFrame* helix, void (HelixFrame::*set)(Value, bool), Value value
 } // namespace
 
 void HelixChanges::setTubeRadius(HelixFrame* helix, int steps) {
-    change(helix, &HelixFrame::set_tube_radius, steps / stepsPerUnit);
+    change(helix, &HelixFrame::set_tube_radius, steps / HelixParameter::lengthSteps);
 }
 
 void HelixChanges::setRibbonRange(HelixFrame* helix, int steps) {
-    change(helix, &HelixFrame::set_ribbon_range, steps / stepsPerUnit);
+    change(helix, &HelixFrame::set_ribbon_range, steps / HelixParameter::lengthSteps);
 }
 
 void HelixChanges::setTurns(HelixFrame* helix, int turns) {

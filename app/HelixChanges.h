@@ -10,9 +10,6 @@ class HelixFrame;
  */
 namespace HelixChanges {
 
-/** Steps of the tube radius and the ribbon range per unit of length. */
-constexpr double stepsPerUnit = 10000.0;
-
 // Each change is drawn at once. Lengths are in steps, precisions in vertices.
 void setTubeRadius(HelixFrame* helix, int steps);
 void setRibbonRange(HelixFrame* helix, int steps);

@@ -1,54 +1,20 @@
 #include "app/ImageExport.h"
 
-#include "app/EpsHeader.h"
+#include "export/PictureRenderer.h"
+#include "export/PrintedScene.h"
 #include "viewer/CurrentContext.h"
-#include "viewer/FittedCamera.h"
 #include "viewer/LightUnits.h"
 #include "viewer/OffscreenContexts.h"
-#include "viewer/SeenScene.h"
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 #include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/nodes/SoCallback.h>
-#include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
-#include <Inventor/nodes/SoDrawStyle.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QGLWidget>
-#include <cstdlib>
-#include <string_view>
 
 namespace {
-
-/** What is written to a stream, in memory. */
-class MemoryStream {
-public:
-    MemoryStream()
-        : stream(open_memstream(&data, &size)) {}
-    ~MemoryStream() {
-        if (stream != nullptr) {
-            std::fclose(stream);
-        }
-        std::free(data);
-    }
-    MemoryStream(const MemoryStream&) = delete;
-    MemoryStream& operator=(const MemoryStream&) = delete;
-
-    /** Null when there is no memory. */
-    std::FILE* get() const { return stream; }
-
-    /** All that was written, empty when some of it did not find room. */
-    std::string_view content() const {
-        const bool whole = std::fflush(stream) == 0 && std::ferror(stream) == 0;
-        return whole ? std::string_view(data, size) : std::string_view();
-    }
-
-private:
-    char* data = nullptr;
-    std::size_t size = 0;
-    std::FILE* stream;
-};
 
 LightUnits lightUnitsOf(const SoQtExaminerViewer& viewer) {
     const CurrentContext previous;
@@ -71,40 +37,13 @@ SoCallback* createCallback(LightUnits& units) {
     return callback;
 }
 
-/** Lines and points that are one pixel wide on the screen, as wide in inches in print. */
-SoDrawStyle* createWidths(int dotsPerInch) {
-    auto* style = new SoDrawStyle;
-    const float width =
-        static_cast<float>(dotsPerInch) / SoOffscreenRenderer::getScreenPixelsPerInch();
-    style->lineWidth = width;
-    style->pointSize = width;
-    style->setOverride(TRUE);
-    style->style.setIgnored(TRUE);
-    style->linePattern.setIgnored(TRUE);
-    style->linePatternScaleFactor.setIgnored(TRUE);
-    return style;
-}
-
-/** The scene under the viewer's light and camera, which are not part of the scene itself. */
-NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root) {
+/** The scene as the viewer shows it, prepared for print. */
+NodePointer<SoSeparator> asSeenBy(const SoQtExaminerViewer& viewer, SoNode* root, int dotsPerInch) {
     SoLight* headlight = viewer.isHeadlight() ? viewer.getHeadlight() : nullptr;
-    const NodePointer<SoCamera> camera =
-        FittedCamera::copyOf(*viewer.getCamera(), *root, viewer.getViewportRegion());
-    return SeenScene::around(root, headlight, camera.get());
-}
-
-/** Renders a picture and writes it as the scene library does. */
-bool render(SoNode& picture, const SoQtExaminerViewer& viewer, const SbViewportRegion& region,
-            std::FILE* file) {
-    OffscreenContexts::install();
-    SoOffscreenRenderer renderer(region);
-    renderer.setBackgroundColor(viewer.getBackgroundColor());
-    renderer.getGLRenderAction()->setTransparencyType(viewer.getTransparencyType());
-    return renderer.render(&picture) != FALSE && renderer.writeToPostScript(file) != FALSE;
-}
-
-bool write(std::string_view text, std::FILE* file) {
-    return std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    const float lineWidth =
+        static_cast<float>(dotsPerInch) / SoOffscreenRenderer::getScreenPixelsPerInch();
+    return PrintedScene::of(root, {*viewer.getCamera(), headlight, viewer.getViewportRegion()},
+                            lineWidth);
 }
 
 } // namespace
@@ -124,21 +63,12 @@ bool ImageExport::printToPostScript(SoNode* root, std::FILE* file, SoQtExaminerV
     if (size[0] <= 0 || size[1] <= 0) {
         return false;
     }
-    SbViewportRegion region;
-    region.setWindowSize(size);
-    region.setPixelsPerInch(static_cast<float>(dotsPerInch));
-
     LightUnits units = lightUnitsOf(*viewer);
-    const NodePointer<SoSeparator> picture(new SoSeparator);
-    picture->addChild(createCallback(units));
-    picture->addChild(createWidths(dotsPerInch));
-    picture->addChild(asSeenBy(*viewer, root).get());
+    const NodePointer<SoSeparator> picture = asSeenBy(*viewer, root, dotsPerInch);
+    picture->insertChild(createCallback(units), 0);
 
-    const MemoryStream rendered;
-    if (rendered.get() == nullptr || !render(*picture, *viewer, region, rendered.get())) {
-        return false;
-    }
-    const auto corrected = EpsHeader::correct(rendered.content(), size, dotsPerInch);
-    return corrected && write(corrected->header, file) && write(corrected->rest, file) &&
-           std::fflush(file) == 0;
+    OffscreenContexts::install();
+    PictureRenderer renderer({size, dotsPerInch},
+                             {viewer->getBackgroundColor(), viewer->getTransparencyType()});
+    return renderer.render(*picture) && renderer.writePostScript(file);
 }

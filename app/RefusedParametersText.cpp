@@ -15,10 +15,6 @@ QString entered(const HyperboloidParameter& parameter, const HyperboloidParamete
     return QString::number(parameter.valueIn(set), 'f', parameter.decimals);
 }
 
-QString conditionText(HyperboloidCondition condition) {
-    return condition == HyperboloidCondition::quadric ? "K13²/K1 + K23²/K2 < K3" : "K1 ≤ K2";
-}
-
 } // namespace
 
 QString RefusedParametersText::of(const HyperboloidParameters& refused,
@@ -31,7 +27,9 @@ QString RefusedParametersText::of(const HyperboloidParameters& refused,
             values << HyperboloidParameterDialog::nameOf(all[i].member) + " = " + value;
         }
     }
+    const std::string_view formula = formulaOf(refused.brokenCondition());
     // The numbers come first: what does not fit into a narrow window is the end.
     return QCoreApplication::translate("MainWindow", "Refused: %1: %2 does not hold")
-        .arg(values.join(", "), conditionText(refused.brokenCondition()));
+        .arg(values.join(", "),
+             QString::fromUtf8(formula.data(), static_cast<int>(formula.size())));
 }

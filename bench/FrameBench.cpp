@@ -1,6 +1,7 @@
 // What drawing one frame of a view costs the GUI thread, at the finest grid. With software OpenGL
 // the rasteriser's own threads come on top; they are not counted.
 
+#include "app/ImageExport.h"
 #include "app/MainWindow.h"
 #include "bench/RatioReporter.h"
 #include "hyperboloid/HyperboloidFrame.h"
@@ -8,11 +9,14 @@
 #include "viewer/WindowSystem.h"
 
 #include <Inventor/Qt/SoQt.h>
+#include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTest>
+#include <cmath>
+#include <cstdio>
 #include <ctime>
 
 namespace {
@@ -28,12 +32,16 @@ double threadSeconds() {
            static_cast<double>(now.tv_nsec) / nanosecondsPerSecond;
 }
 
+constexpr int finestGrid = 500;
+constexpr int coarseGrid = 64;
+
 class ShownWindow {
 public:
-    ShownWindow() {
+    explicit ShownWindow(int grid = finestGrid) {
         window.resize(1000, 800);
         window.setUpMainViewer();
-        window.refresh_hyperboloids(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, 500, 500, 0.3, 7, 7, 0.02, 0.03);
+        window.refresh_hyperboloids(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, grid, grid, 0.3, 7, 7, 0.02,
+                                    0.03);
         window.show();
         [[maybe_unused]] const bool exposed = QTest::qWaitForWindowExposed(&window);
         QCoreApplication::processEvents();
@@ -95,6 +103,26 @@ void drawNewSurface(State& state, SoSeparator::CacheEnabled caching) {
     }
 }
 
+/** The export of a picture of 1800 x 1500, as the program without a window makes many. */
+void exportImage(State& state) {
+    const ShownWindow shown(coarseGrid);
+    SoQtGeneralViewer& viewer = *shown.u().getViewer();
+    const auto pixels = [](int inches) {
+        const float count =
+            static_cast<float>(inches) * SoOffscreenRenderer::getScreenPixelsPerInch();
+        return static_cast<short>(std::ceil(count));
+    };
+    viewer.setViewportRegion(SbViewportRegion(pixels(6), pixels(5)));
+    for ([[maybe_unused]] const auto iteration : state) {
+        std::FILE* file = std::tmpfile();
+        constexpr int dotsPerInch = 300;
+        if (!ImageExport::printToPostScript(shown.u().getSceneRoot(), file, &viewer, dotsPerInch)) {
+            state.SkipWithError("The picture cannot be exported.");
+        }
+        std::fclose(file);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -115,5 +143,8 @@ int main(int argc, char** argv) {
     RegisterBenchmark("first frame of a new surface/ours", [](State& state) {
         drawNewSurface(state, SoSeparator::ON);
     })->UseManualTime();
+    RegisterBenchmark("image of U, 64 x 64, 1800 x 1500/ours", exportImage)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
     return RatioReporter::runAll(argc, argv);
 }

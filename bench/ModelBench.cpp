@@ -1,7 +1,7 @@
 // What the models compute, the plain computation beside ours.
 
-#include "app/DataExport.h"
 #include "bench/RatioReporter.h"
+#include "export/DataExport.h"
 #include "helix/Helix.h"
 #include "hyperboloid/Hyperboloid.h"
 #include "scene/SceneNodes.h"

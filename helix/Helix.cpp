@@ -4,6 +4,7 @@
 #include "math/Constants.h"
 #include "scene/PositionColor.h"
 
+#include <Inventor/nodes/SoSeparator.h>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -194,4 +195,9 @@ SoSeparator* Helix::DrawTube() const {
 SoSeparator* Helix::DrawRibbon() const {
     tables.requireSizesOf(counts());
     return HelixNodes::createRibbon(*this);
+}
+
+void Helix::drawParts(SoSeparator& root) const {
+    root.addChild(DrawTube());
+    root.addChild(DrawRibbon());
 }

@@ -149,6 +149,9 @@ public:
     SoSeparator* DrawTube() const;
     SoSeparator* DrawRibbon() const;
 
+    /** Adds what is shown of a helix to a scene: tube and ribbon. */
+    void drawParts(SoSeparator& root) const;
+
 private:
     void updateOmega();
     void updateLineVertexCount();

@@ -51,8 +51,7 @@ void HelixFrame::SetEventHandlers() {}
 void HelixFrame::Draw() {
     removeSceneChild(HelixNames::tube, root);
     removeSceneChild(HelixNames::ribbon, root);
-    root->addChild(helix.DrawTube());
-    root->addChild(helix.DrawRibbon());
+    helix.drawParts(*root);
 }
 
 void HelixFrame::reDraw(bool line, bool tube, bool ribbon) {

@@ -167,6 +167,27 @@ void Hyperboloid::computeColorForPoint(const float (&p)[3], float (&rgb)[3]) {
     store(positionColor(toFloatTriple(p)), rgb);
 }
 
+void Hyperboloid::setTransparencyPercent(int value) {
+    transparency = value / percent;
+    material->transparency = static_cast<float>(transparency);
+}
+
+void Hyperboloid::takeColorsFrom(const Hyperboloid& other) {
+    // On different grids an index names different places.
+    if (other.tablesGrid == tablesGrid) {
+        colors = other.colors;
+    }
+}
+
+void Hyperboloid::drawParts(SoSeparator& lit, SoSeparator& styled) {
+    lit.addChild(DrawU3Axis(static_cast<float>(u3axis_range), static_cast<float>(u3axis_radius)));
+    styled.addChild(DrawHyperboloid());
+    lit.addChild(DrawCenter());
+    lit.addChild(DrawUHat());
+    lit.addChild(
+        DrawU3ConstAxis(static_cast<float>(u3const_range), static_cast<float>(u3const_radius)));
+}
+
 SoSeparator* Hyperboloid::DrawHyperboloid() {
     requireTablesOfGrid();
     SceneNodes::setColors(*material, colors);
@@ -201,6 +222,12 @@ SoSeparator* Hyperboloid::DrawUHat() {
 
 SoSeparator* Hyperboloid::DrawCenter() {
     return HyperboloidDecorations::createCenter(spaces(), space, sphereGroup.get());
+}
+
+SoSeparator* Hyperboloid::DrawVertex(const SbName& name, int k) const {
+    const auto index = static_cast<std::size_t>(k);
+    return HyperboloidDecorations::createVertexMarker(name, vertices[index], colors[index],
+                                                      sphereGroup.get());
 }
 
 SoSeparator* Hyperboloid::DrawTubeLine(Vecteur A, Vecteur B, float radius, bool blue) {

@@ -10,6 +10,7 @@
 #include "scene/SceneNodes.h"
 #include "scene/SurfaceVertex.h"
 
+#include <Inventor/SbName.h>
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -102,7 +103,23 @@ public:
     /** The colour of a position, a rule of its own that no surface wears. */
     void computeColorForPoint(const float (&p)[3], float (&rgb)[3]);
 
+    // Appearance in percent, 0 to 100. Saturation and lightness show with the colours that are
+    // computed next, the transparency at once.
+    void setSaturationPercent(int value) { saturation = value / percent; }
+    void setLightnessPercent(int value) { lightness = value / percent; }
+    void setTransparencyPercent(int value);
+    /** Takes over the colours of a surface, vertex by vertex, when its tables are of the same grid.
+     */
+    void takeColorsFrom(const Hyperboloid& other);
+
     // The parts' names are those of HyperboloidNames.
+    /**
+     * Adds the surface and its decorations to a scene, in the order in which they are drawn.
+     *
+     * @param lit    what is always lit: the decorations
+     * @param styled what follows the look of the scene: the surface
+     */
+    void drawParts(SoSeparator& lit, SoSeparator& styled);
     /** The surface; its mesh is picked by vertex. */
     SoSeparator* DrawHyperboloid();
     /** The U3 axis with its arrow cone; half-length and tube radius. */
@@ -113,6 +130,8 @@ public:
     SoSeparator* DrawUHat();
     /** The centre of the quadric. */
     SoSeparator* DrawCenter();
+    /** A point marker of this name at vertex k, in the vertex's colour. */
+    SoSeparator* DrawVertex(const SbName& name, int k) const;
     /** A tube from A to B, blue or red. */
     SoSeparator* DrawTubeLine(Vecteur A, Vecteur B, float radius, bool blue);
     /** A cone on the base centre A that points away from B. */
@@ -206,5 +225,7 @@ protected:
     void requireTablesOfGrid() const;
 
 private:
+    static constexpr double percent = 100.0;
+
     [[nodiscard]] HyperboloidSpaces spaces() const;
 };

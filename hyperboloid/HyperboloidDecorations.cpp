@@ -197,6 +197,21 @@ SoSeparator* HyperboloidDecorations::createCenter(const HyperboloidSpaces& space
     return createMarker(HyperboloidNames::center, spaces.center(space), redColor, marker);
 }
 
+SoSeparator* HyperboloidDecorations::createVertexMarker(const SbName& name,
+                                                        const FloatTriple& place,
+                                                        const FloatTriple& color, SoGroup* marker) {
+    auto* material = new SoMaterial;
+    material->diffuseColor.setValue(color.x, color.y, color.z);
+    auto* position = new SoTransform;
+    position->translation.setValue(place.x, place.y, place.z);
+
+    SoSeparator* placed = SceneNodes::createSeparator(name.getString());
+    placed->addChild(material);
+    placed->addChild(position);
+    placed->addChild(marker);
+    return placed;
+}
+
 SoSeparator* HyperboloidDecorations::createAxisGlyph(double halfLength, double radius) {
     std::vector<FloatTriple> points;
     points.reserve(tubePoints);

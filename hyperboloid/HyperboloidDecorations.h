@@ -2,7 +2,10 @@
 
 #include "hyperboloid/HyperboloidCoefficients.h"
 #include "hyperboloid/HyperboloidSpaces.h"
+#include "math/Triple.h"
 #include "math/Vecteur.h"
+
+#include <Inventor/SbName.h>
 
 class SoGroup;
 class SoSeparator;
@@ -51,6 +54,10 @@ SoSeparator* createUHat(const HyperboloidSpaces& spaces, int space, SoGroup* mar
 
 /** The given marker in red at the centre of the quadric. */
 SoSeparator* createCenter(const HyperboloidSpaces& spaces, int space, SoGroup* marker);
+
+/** The given marker under this name at a vertex, in the vertex's colour. */
+SoSeparator* createVertexMarker(const SbName& name, const FloatTriple& place,
+                                const FloatTriple& color, SoGroup* marker);
 
 /**
  * A blue tube of two rings along the third coordinate, from halfLength to -halfLength,

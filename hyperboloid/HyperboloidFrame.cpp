@@ -9,15 +9,11 @@
 #include <Inventor/actions/SoRayPickAction.h>
 #include <Inventor/events/SoKeyboardEvent.h>
 #include <Inventor/events/SoMouseButtonEvent.h>
-#include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <Inventor/nodes/SoTransform.h>
 #include <array>
 #include <optional>
 
 namespace {
-
-constexpr double percent = 100.0;
 
 /** The direction that a key steps in, if it is a direction key. */
 std::optional<int> directionOfKey(SoKeyboardEvent::Key key) {
@@ -93,12 +89,9 @@ void HyperboloidFrame::PrevHelixDead() {
 }
 
 void HyperboloidFrame::changeColors() {
-    if (space == USPACE || uBrother == nullptr) {
-        return;
-    }
-    // A change of the grid begins with U; on different grids an index names different places.
-    if (uBrother->tablesGrid == tablesGrid) {
-        colors = uBrother->colors;
+    // A change of the grid begins with U: until the others follow, they keep their colours.
+    if (space != USPACE && uBrother != nullptr) {
+        takeColorsFrom(*uBrother);
     }
 }
 
@@ -120,32 +113,25 @@ void HyperboloidFrame::reDraw(bool reinit, bool regenerate) {
 }
 
 void HyperboloidFrame::Draw() {
-    phongSeparator->addChild(
-        DrawU3Axis(static_cast<float>(u3axis_range), static_cast<float>(u3axis_radius)));
-    drawStyleSeparator->addChild(DrawHyperboloid());
-    phongSeparator->addChild(DrawCenter());
-    phongSeparator->addChild(DrawUHat());
-    phongSeparator->addChild(
-        DrawU3ConstAxis(static_cast<float>(u3const_range), static_cast<float>(u3const_radius)));
+    drawParts(*phongSeparator, *drawStyleSeparator);
 }
 
 void HyperboloidFrame::setSaturation(int value, bool redraw) {
-    saturation = value / percent;
+    setSaturationPercent(value);
     if (redraw) {
         reDraw(false, true);
     }
 }
 
 void HyperboloidFrame::setLightness(int value, bool redraw) {
-    lightness = value / percent;
+    setLightnessPercent(value);
     if (redraw) {
         reDraw(false, true);
     }
 }
 
 void HyperboloidFrame::setTransparency(int value, bool redraw) {
-    transparency = value / percent;
-    material->transparency = static_cast<float>(transparency);
+    setTransparencyPercent(value);
     if (redraw) {
         reDraw(false, false);
     }
@@ -160,18 +146,7 @@ int HyperboloidFrame::get_index(const SoPickedPoint* point) const {
 }
 
 void HyperboloidFrame::addNewSphere(SbName name, int index) {
-    const FloatTriple& vertexColor = colors[static_cast<std::size_t>(index)];
-    auto* color = new SoMaterial;
-    color->diffuseColor.setValue(vertexColor.x, vertexColor.y, vertexColor.z);
-    const FloatTriple& place = vertices[static_cast<std::size_t>(index)];
-    auto* position = new SoTransform;
-    position->translation.setValue(place.x, place.y, place.z);
-
-    SoSeparator* sphere = SceneNodes::createSeparator(name.getString());
-    sphere->addChild(color);
-    sphere->addChild(position);
-    sphere->addChild(sphereGroup.get());
-    phongSeparator->addChild(sphere);
+    phongSeparator->addChild(DrawVertex(name, index));
 }
 
 void HyperboloidFrame::killSphere(SbName name) {

@@ -13,37 +13,53 @@ constexpr double largestPointRadius = 10;
 constexpr double coarsestGrid = 5;
 constexpr double finestGrid = 500;
 
-constexpr HyperboloidParameter real(std::string_view name, double Set::*member, double minimum,
-                                    double maximum) {
+constexpr HyperboloidParameter real(std::string_view name, std::string_view meaning,
+                                    double Set::*member, double minimum, double maximum) {
     constexpr int decimals = 2;
     constexpr double step = 0.01;
-    return {name, member, minimum, maximum, decimals, step};
+    return {name, meaning, member, minimum, maximum, decimals, step};
 }
 
-constexpr HyperboloidParameter whole(std::string_view name, int Set::*member, double minimum,
-                                     double maximum) {
-    return {name, member, minimum, maximum, 0, 1};
+constexpr HyperboloidParameter whole(std::string_view name, std::string_view meaning,
+                                     int Set::*member, double minimum, double maximum) {
+    return {name, meaning, member, minimum, maximum, 0, 1};
 }
 
 constexpr std::array<HyperboloidParameter, Set::count> parameters{
-    real("K1", &Set::K1, leastDivisor, largest),
-    real("K2", &Set::K2, leastDivisor, largest),
-    real("K3", &Set::K3, 0, largest),
-    real("K13", &Set::K13, -largest, largest),
-    real("K23", &Set::K23, -largest, largest),
-    real("Uhat1", &Set::U1, -largest, largest),
-    real("Uhat2", &Set::U2, -largest, largest),
-    real("Uhat3", &Set::U3, -largest, largest),
-    whole("columns", &Set::horizontalPrecision, coarsestGrid, finestGrid),
-    whole("rows", &Set::verticalPrecision, coarsestGrid, finestGrid),
-    real("point-radius", &Set::pointRadius, 0, largestPointRadius),
-    real("u3const-range", &Set::u3constRange, 0, largest),
-    real("u3axis-range", &Set::u3axisRange, 0, largest),
-    real("u3const-radius", &Set::u3constRadius, 0, largest),
-    real("u3axis-radius", &Set::u3axisRadius, 0, largest),
+    real("K1", "first diagonal entry of the matrix K", &Set::K1, leastDivisor, largest),
+    real("K2", "second diagonal entry of K", &Set::K2, leastDivisor, largest),
+    real("K3", "third diagonal entry of K", &Set::K3, 0, largest),
+    real("K13", "entry of K in row 1 and column 3", &Set::K13, -largest, largest),
+    real("K23", "entry of K in row 2 and column 3", &Set::K23, -largest, largest),
+    real("Uhat1", "first coordinate of the point uHat of U space", &Set::U1, -largest, largest),
+    real("Uhat2", "second coordinate of uHat", &Set::U2, -largest, largest),
+    real("Uhat3", "third coordinate of uHat", &Set::U3, -largest, largest),
+    whole("columns", "columns of the grid, around the surface", &Set::horizontalPrecision,
+          coarsestGrid, finestGrid),
+    whole("rows", "rows of the grid, along the surface", &Set::verticalPrecision, coarsestGrid,
+          finestGrid),
+    real("point-radius", "radius of the spheres that mark points", &Set::pointRadius, 0,
+         largestPointRadius),
+    real("u3const-range", "half the length of the lines of constant u3", &Set::u3constRange, 0,
+         largest),
+    real("u3axis-range", "half the length of the u3 axis", &Set::u3axisRange, 0, largest),
+    real("u3const-radius", "radius of the tubes of the lines of constant u3", &Set::u3constRadius,
+         0, largest),
+    real("u3axis-radius", "radius of the tube of the u3 axis", &Set::u3axisRadius, 0, largest),
 };
 
 } // namespace
+
+std::string_view formulaOf(HyperboloidCondition condition) {
+    switch (condition) {
+    case HyperboloidCondition::quadric:
+        return "K13²/K1 + K23²/K2 < K3";
+    case HyperboloidCondition::order:
+        return "K1 ≤ K2";
+    default:
+        return {};
+    }
+}
 
 const std::array<HyperboloidParameter, HyperboloidParameters::count>& HyperboloidParameters::all() {
     return parameters;

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 class Hyperboloid;
 
@@ -19,6 +20,9 @@ enum class HyperboloidCondition {
     /** All conditions hold. */
     none = 0
 };
+
+/** A condition as a formula in UTF-8, for example "K1 ≤ K2"; empty for none. */
+std::string_view formulaOf(HyperboloidCondition condition);
 
 /**
  * The fifteen values that shape the hyperboloid and its decorations. A new set holds the values

@@ -5,12 +5,13 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 viewer_packages=(
-    libcoin-dev libsoqt520-dev qtbase5-dev libqt5opengl5-dev libboost-dev cmake ninja-build g++)
+    libcoin-dev libsoqt520-dev qtbase5-dev libqt5opengl5-dev libboost-dev libegl-dev libcli11-dev
+    cmake ninja-build g++)
 virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
-    valgrind python3-clang libclang-common-14-dev)
+    valgrind time python3-clang libclang-common-14-dev)
 check_packages=(clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
 mutation_packages=(ccache git)
@@ -68,7 +69,7 @@ memcheck() {
     shift
     local program
     local filter='--gtest_filter=-*FinestGrid*:*FineGrids*:*PicksExactlyWhat*'
-    for program in "$folder"/bin/{math,helix,scene,hyperboloid,document_scene,data_text,resources,shrinking}_test; do
+    for program in "$folder"/bin/{math,helix,scene,hyperboloid,document_scene,data_text,resources,shrinking,batch}_test; do
         echo "memcheck $program"
         valgrind --quiet --error-exitcode=1 --track-origins=yes "$program" --gtest_brief=1 "$filter" "$@"
     done
@@ -78,8 +79,8 @@ memcheck() {
 print_coverage() {
     local folder=$1 layer
     local report=(gcovr --root . --object-directory "$folder" --exclude-unreachable-branches)
-    for layer in math helix hyperboloid scene viewer app; do
+    for layer in math helix hyperboloid scene viewer export app batch; do
         echo "$layer: $("${report[@]}" --filter "$layer/" --print-summary | grep '^lines')"
     done
-    "${report[@]}" --filter '(math|helix|hyperboloid|scene|viewer|app)/' --print-summary
+    "${report[@]}" --filter '(math|helix|hyperboloid|scene|viewer|export|app|batch)/' --print-summary
 }

@@ -46,22 +46,22 @@ DocumentScene::DocumentScene()
     root->addChild(drawStyleSeparator);
 }
 
+void DocumentScene::setLook(Look newLook) {
+    look = newLook;
+    shadingSwitch->whichChild = look == Look::lit ? phongChild : solidChild;
+    drawStyle->style = look == Look::lines ? SoDrawStyle::LINES : SoDrawStyle::FILLED;
+}
+
 void DocumentScene::toggleDrawStyle() {
-    switch (drawStyleState) {
-    case 0:
-        shadingSwitch->whichChild = solidChild;
-        drawStyle->style = SoDrawStyle::FILLED;
-        drawStyleState = 1;
+    switch (look) {
+    case Look::lit:
+        setLook(Look::plain);
         break;
-    case 1:
-        shadingSwitch->whichChild = solidChild;
-        drawStyle->style = SoDrawStyle::LINES;
-        drawStyleState = 2;
+    case Look::plain:
+        setLook(Look::lines);
         break;
-    default:
-        shadingSwitch->whichChild = phongChild;
-        drawStyle->style = SoDrawStyle::FILLED;
-        drawStyleState = 0;
+    case Look::lines:
+        setLook(Look::lit);
         break;
     }
 }

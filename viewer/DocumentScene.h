@@ -43,6 +43,18 @@ public:
     SoShaderProgram* getPhongProgram() const { return phongProgram; }
     SoShaderProgram* getSolidProgram() const { return solidProgram; }
 
+    /** How what follows the draw style is shown, in the order of their cycle. */
+    enum class Look {
+        /** Lit, filled: the Phong program. */
+        lit,
+        /** Plain colours, filled: the solid program. */
+        plain,
+        /** Plain colours, the edges alone. */
+        lines
+    };
+
+    void setLook(Look newLook);
+
     /** Goes on to the next look: Phong, solid, lines, and Phong again. */
     void toggleDrawStyle();
 
@@ -59,6 +71,5 @@ private:
     SoSeparator* phongSeparator;
     SoSeparator* drawStyleSeparator;
     SoSwitch* shadingSwitch;
-    /** The position in the cycle of looks: 0 Phong, 1 solid, 2 lines. */
-    int drawStyleState = 0;
+    Look look = Look::lit;
 };

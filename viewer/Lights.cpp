@@ -11,6 +11,10 @@ SoDirectionalLight* Lights::createDirectionalLight(float intensity, const SbVec3
     return light;
 }
 
+SoDirectionalLight* Lights::createHeadlight() {
+    return createDirectionalLight(1, SbVec3f(1, -1, -10));
+}
+
 SoEnvironment* Lights::createEnvironment(float ambient) {
     auto* environment = new SoEnvironment;
     environment->ambientIntensity = ambient;

@@ -16,6 +16,9 @@ namespace Lights {
  */
 SoDirectionalLight* createDirectionalLight(float intensity, const SbVec3f& direction);
 
+/** The light that the examiner viewer shines with from beside the eye, in the camera's axes. */
+SoDirectionalLight* createHeadlight();
+
 /** White light from everywhere, of a brightness of 0 to 1. */
 SoEnvironment* createEnvironment(float ambient);
 

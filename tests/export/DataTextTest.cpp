@@ -1,4 +1,4 @@
-#include "app/DataExport.h"
+#include "export/DataExport.h"
 #include "helix/Helix.h"
 #include "hyperboloid/Hyperboloid.h"
 #include "tests/reference/PlainDataExport.h"

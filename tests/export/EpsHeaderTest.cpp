@@ -1,4 +1,4 @@
-#include "app/EpsHeader.h"
+#include "export/EpsHeader.h"
 
 #include <gtest/gtest.h>
 

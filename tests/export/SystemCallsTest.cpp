@@ -1,7 +1,7 @@
 // What the system does with a file's writing that neither a full disk nor a broken pipe shows: it
 // fails late, and it is interrupted.
 
-#include "app/WholeFile.h"
+#include "export/WholeFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

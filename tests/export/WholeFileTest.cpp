@@ -1,4 +1,4 @@
-#include "app/WholeFile.h"
+#include "export/WholeFile.h"
 
 #include "tests/support/LargestFileSize.h"
 #include "tests/support/SmallDisk.h"

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -151,3 +153,24 @@ TEST(HyperboloidParameters, OfAModelAreItsOwnWithKAndUHatAsFloats) {
 }
 
 } // namespace
+
+TEST(HyperboloidParameters, AdmitWhatLiesInTheRangeAndCountsThatAreWhole) {
+    const HyperboloidParameter& k1 = HyperboloidParameter::named("K1");
+    EXPECT_TRUE(k1.admits(0.01));
+    EXPECT_TRUE(k1.admits(0.012345));
+    EXPECT_TRUE(k1.admits(100));
+    EXPECT_FALSE(k1.admits(0.00999));
+    EXPECT_FALSE(k1.admits(100.001));
+    EXPECT_FALSE(k1.admits(std::nan("")));
+    const HyperboloidParameter& rows = HyperboloidParameter::named("rows");
+    EXPECT_TRUE(rows.admits(17));
+    EXPECT_FALSE(rows.admits(17.5));
+}
+
+TEST(HyperboloidParameters, AreFoundByTheirNames) {
+    for (const HyperboloidParameter& parameter : HyperboloidParameters::all()) {
+        EXPECT_EQ(&HyperboloidParameter::named(parameter.name), &parameter);
+        EXPECT_FALSE(parameter.meaning.empty());
+    }
+    EXPECT_THROW(HyperboloidParameter::named("K14"), std::invalid_argument);
+}

@@ -60,6 +60,18 @@ TEST(DocumentScene, GoesThroughItsLooksByItself) {
     EXPECT_EQ(look(scene), first);
 }
 
+TEST(DocumentScene, TakesALookAndGoesOnFromIt) {
+    DocumentScene scene;
+    scene.setLook(DocumentScene::Look::lines);
+    EXPECT_EQ(look(scene), std::make_pair(1, int{SoDrawStyle::LINES}));
+    scene.setLook(DocumentScene::Look::plain);
+    EXPECT_EQ(look(scene), std::make_pair(1, int{SoDrawStyle::FILLED}));
+    scene.toggleDrawStyle();
+    EXPECT_EQ(look(scene), std::make_pair(1, int{SoDrawStyle::LINES}));
+    scene.setLook(DocumentScene::Look::lit);
+    EXPECT_EQ(look(scene), std::make_pair(0, int{SoDrawStyle::FILLED}));
+}
+
 TEST(DocumentScene, KeepsItsNodesAsLongAsItLives) {
     NodePointer<SoSeparator> root;
     {

@@ -1,4 +1,4 @@
-#include "app/WholeFile.h"
+#include "export/WholeFile.h"
 
 #include <QFileInfo>
 #include <cerrno>
@@ -93,20 +93,7 @@ int WholeFile::handle() const {
 }
 
 void WholeFile::write(const char* text, std::size_t size) {
-    // Not by way of the toolkit, which takes the half that found room for the whole.
-    std::size_t written = 0;
-    while (failure.isEmpty() && written < size) {
-        const ssize_t count = ::write(handle(), text + written, size - written);
-        if (count == 0) {
-            // A device that takes nothing would be asked for ever.
-            errno = EIO;
-        }
-        if (count > 0) {
-            written += static_cast<std::size_t>(count);
-        } else if (errno != EINTR) {
-            failure = systemError();
-        }
-    }
+    writeTo(handle(), text, size);
 }
 
 bool WholeFile::isWritableInPlace() const {

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "export/ByteTarget.h"
+
 #include <QFile>
 #include <QSaveFile>
-#include <QString>
 #include <filesystem>
 
 /**
@@ -11,11 +12,11 @@
  * such as a device or a pipe, is written to directly. A pipe whose reader has gone fails to be
  * written and does not end the program as long as this object lives.
  */
-class WholeFile {
+class WholeFile : public ByteTarget {
 public:
     /** Opens a file for writing. */
     explicit WholeFile(const QString& fileName);
-    ~WholeFile();
+    ~WholeFile() override;
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
 
@@ -27,15 +28,10 @@ public:
      */
     bool isWritableInPlace() const;
 
-    /** Writes more of the content; after a failure nothing more is written, and commit() fails. */
-    void write(const char* text, std::size_t size);
+    void write(const char* text, std::size_t size) override;
 
     /** Gives the file its name; false when it could not be written wholly, and nothing changed. */
-    bool commit();
-
-    /** In the system's words, why the file could not be opened or written; empty as long as all is
-     * well. */
-    QString errorString() const { return failure; }
+    bool commit() override;
 
 private:
     /** Opens the file that will take the target's place. */
@@ -46,5 +42,4 @@ private:
     /** What is no file, open in place of the replacement. */
     QFile direct;
     QSaveFile replacement;
-    QString failure;
 };

@@ -1,0 +1,106 @@
+#include "batch/BatchRun.h"
+
+#include "batch/CommandLine.h"
+#include "batch/Interruption.h"
+#include "batch/ListedCommand.h"
+#include "batch/ModelSet.h"
+#include "batch/Numbers.h"
+#include "batch/Production.h"
+
+#include <Inventor/SoDB.h>
+#include <iostream>
+#include <unistd.h>
+
+namespace {
+
+using Sets = std::vector<HyperboloidParameters>;
+
+/** The swept values of a set, for example "K13 = 0.5, K23 = 0.25"; empty without sweeps. */
+std::string sweptValues(const BatchOptions& options, const HyperboloidParameters& set) {
+    std::string text;
+    for (const Sweep& sweep : options.sweeps) {
+        text += text.empty() ? "" : ", ";
+        text += std::string(sweep.parameter->name) + " = " +
+                Numbers::text(sweep.parameter->valueIn(set));
+    }
+    return text;
+}
+
+/** One line on a terminal that is written over and over; nothing where there is no terminal. */
+class ProgressLine {
+public:
+    explicit ProgressLine(std::size_t setCount)
+        : count(setCount)
+        , shown(count > 1 && isatty(STDERR_FILENO) != 0) {}
+    ~ProgressLine() { clear(); }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    void show(std::size_t done, const std::string& values) const {
+        if (shown) {
+            clear();
+            std::cerr << done + 1 << " of " << count << ": " << values << std::flush;
+        }
+    }
+
+private:
+    void clear() const {
+        if (shown) {
+            std::cerr << "\r\033[K" << std::flush;
+        }
+    }
+
+    std::size_t count;
+    bool shown;
+};
+
+std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) {
+    Production production(options);
+    const ProgressLine progress(sets.size());
+    const Interruption interruption;
+    std::vector<std::string> failures;
+    for (std::size_t i = 0; i < sets.size(); ++i) {
+        if (interruption.isAskedFor()) {
+            failures.push_back("Interrupted: " + std::to_string(sets.size() - i) + " of " +
+                               std::to_string(sets.size()) + " sets are not made");
+            break;
+        }
+        const std::string values = sweptValues(options, sets[i]);
+        progress.show(i, values);
+        const std::string place = values.empty() ? values : values + ": ";
+        for (const std::string& failure : production.make(sets[i])) {
+            failures.push_back(place + failure);
+        }
+    }
+    return failures;
+}
+
+int makeAndReport(const BatchOptions& options, const Sets& sets) {
+    SoDB::init();
+    const std::vector<std::string> failures = makeAll(options, sets);
+    SoDB::finish();
+    for (const std::string& failure : failures) {
+        std::cerr << failure << "\n";
+    }
+    return failures.empty() ? 0 : BatchRun::incomplete;
+}
+
+} // namespace
+
+int BatchRun::run(const BatchOptions& options, const std::string& program) {
+    const Sets sets = setsOf(options.parameters, options.sweeps);
+    if (sets.size() == 1) {
+        const std::string refusal = ModelSet::refusal(sets.front(), options);
+        if (!refusal.empty()) {
+            std::cerr << "Refused: " << refusal << "\n";
+            return CommandLine::refused;
+        }
+    }
+    if (options.list) {
+        for (const HyperboloidParameters& set : sets) {
+            std::cout << ListedCommand::of(options, set, program) << "\n";
+        }
+        return 0;
+    }
+    return makeAndReport(options, sets);
+}

@@ -1,0 +1,85 @@
+#include "batch/Contradictions.h"
+
+#include "batch/FileName.h"
+#include "batch/OutputFormat.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
+#include <stdexcept>
+
+namespace {
+
+void require(bool condition, const std::string& otherwise) {
+    if (!condition) {
+        throw std::invalid_argument(otherwise);
+    }
+}
+
+/** Whether a word of the command gives a parameter its value. */
+bool gives(const std::string& word, const HyperboloidParameter& parameter) {
+    const bool ofGrid = parameter.decimals == 0 && word.rfind("--grid=", 0) == 0;
+    return ofGrid || word.rfind("--" + std::string(parameter.name) + "=", 0) == 0;
+}
+
+void checkSweeps(const BatchOptions& options) {
+    std::set<const HyperboloidParameter*> swept;
+    for (const Sweep& sweep : options.sweeps) {
+        const std::string name(sweep.parameter->name);
+        require(swept.insert(sweep.parameter).second, name + " is swept twice");
+        const bool given =
+            std::any_of(options.words.begin(), options.words.end(),
+                        [&](const std::string& word) { return gives(word, *sweep.parameter); });
+        require(!given, name + " is both given and swept");
+    }
+}
+
+/** Every swept parameter must tell the files of different sets apart. */
+void checkFileNames(const BatchOptions& options) {
+    for (const Output& output : options.outputs) {
+        const auto named = FileName::parametersIn(output.file);
+        for (const Sweep& sweep : options.sweeps) {
+            const bool told = std::find(named.begin(), named.end(), sweep.parameter) != named.end();
+            require(told || sweep.values.size() == 1,
+                    output.file + " would be written again and again: {" +
+                        std::string(sweep.parameter->name) + "} is not in its name");
+        }
+    }
+}
+
+void checkTargets(const BatchOptions& options) {
+    require(!options.outputs.empty(),
+            "Nothing is to be made: give --text, --image or --scene (--help tells more)");
+    std::set<std::string> names;
+    for (const Output& output : options.outputs) {
+        const std::string name = OutputFormat::isStandardOutput(output) ? "-" : output.file;
+        require(names.insert(name).second, name + " is to be written twice");
+    }
+}
+
+void checkViewpoint(const Viewpoint& viewpoint) {
+    SbVec3f direction = viewpoint.direction;
+    SbVec3f up = viewpoint.up;
+    constexpr float leastSine = 1e-5F;
+    require(direction.normalize() > 0 && up.normalize() > 0,
+            "A direction of the camera has the length 0");
+    require(direction.cross(up).length() > leastSine,
+            "What is up in the picture may not be where the camera looks");
+}
+
+void checkPaper(const Paper& paper) {
+    constexpr long largest = std::numeric_limits<short>::max();
+    const long longer = std::max(paper.width, paper.height);
+    require(longer * paper.dotsPerInch <= largest,
+            "A picture is " + std::to_string(largest) + " dots wide and high at most");
+}
+
+} // namespace
+
+void Contradictions::refuse(const BatchOptions& options) {
+    checkTargets(options);
+    checkSweeps(options);
+    checkFileNames(options);
+    checkViewpoint(options.viewpoint);
+    checkPaper(options.paper);
+}

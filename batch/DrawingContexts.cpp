@@ -1,0 +1,115 @@
+#include "batch/DrawingContexts.h"
+
+#include "viewer/OffscreenContexts.h"
+#include "viewer/SurfacelessContexts.h"
+#include "viewer/WindowSystem.h"
+
+#include <Inventor/errors/SoDebugError.h>
+#include <QGuiApplication>
+#include <X11/Xlib.h>
+#include <clocale>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <string_view>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+SoErrorCB* nextHandler = nullptr;
+void* nextHandlerData = nullptr;
+
+/**
+ * The scene library asks GLX how large a picture may be and how fine the screen is, and complains
+ * where there is none, although neither is used.
+ */
+void passOnAllButGlx(const SoError* error, void* /*data*/) {
+    const std::string_view text = error->getDebugString().getString();
+    const bool isOfGlx = text.find("glxglue") != std::string_view::npos ||
+                         text.find("GLX") != std::string_view::npos;
+    if (!isOfGlx) {
+        nextHandler(error, nextHandlerData);
+    }
+}
+
+void silenceGlx() {
+    if (nextHandler == nullptr) {
+        nextHandler = SoDebugError::getHandlerCallback();
+        nextHandlerData = SoDebugError::getHandlerData();
+        SoDebugError::setHandlerCallback(passOnAllButGlx, nullptr);
+    }
+}
+
+/** The folder that Mesa keeps shaders in from one start to the next; empty when nothing names one.
+ */
+fs::path cacheFolder() {
+    if (const char* cache = std::getenv("XDG_CACHE_HOME")) {
+        return cache;
+    }
+    const char* home = std::getenv("HOME");
+    return home == nullptr ? fs::path() : fs::path(home) / ".cache";
+}
+
+/** Mesa complains where it cannot keep shaders, and draws all the same. */
+void doWithoutCacheWhereThereIsNone() {
+    const fs::path folder = cacheFolder();
+    std::error_code error;
+    if (!folder.empty()) {
+        fs::create_directories(folder, error);
+    }
+    if (error || access(folder.c_str(), W_OK) != 0) {
+        constexpr int keepTheUsers = 0;
+        setenv("MESA_SHADER_CACHE_DISABLE", "true", keepTheUsers);
+    }
+}
+
+/** The toolkit would end the program where there is no display. */
+bool isDisplayThere() {
+    Display* display = XOpenDisplay(nullptr);
+    if (display == nullptr) {
+        return false;
+    }
+    XCloseDisplay(display);
+    return true;
+}
+
+} // namespace
+
+DrawingContexts::DrawingContexts() = default;
+
+DrawingContexts::~DrawingContexts() = default;
+
+std::string DrawingContexts::open() {
+    silenceGlx();
+    doWithoutCacheWhereThereIsNone();
+    const std::string reason = SurfacelessContexts::install();
+    if (reason.empty()) {
+        return {};
+    }
+    const std::string displayReason = openDisplay();
+    if (displayReason.empty()) {
+        std::cerr << "There is no OpenGL without a display (EGL, platform surfaceless: " << reason
+                  << "); the display is used.\n";
+        return {};
+    }
+    return "there is no OpenGL, neither without a display (EGL, platform surfaceless: " + reason +
+           ") nor on one (" + displayReason + "); install libegl1 and libgl1-mesa-dri";
+}
+
+std::string DrawingContexts::openDisplay() {
+    if (!isDisplayThere()) {
+        return "DISPLAY names none";
+    }
+    WindowSystem::prepareEnvironment();
+    static int argumentCount = 1;
+    static char name[] = "torvane-batch";
+    static char* arguments[] = {name, nullptr};
+    application = std::make_unique<QGuiApplication>(argumentCount, arguments);
+    WindowSystem::setPlugInPath();
+    // The application object takes over the user's locale; files keep their decimal point.
+    std::setlocale(LC_NUMERIC, "C");
+    OffscreenContexts::install();
+    return {};
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+/**
+ * Lets the user end the program between two sets, so that no file is left half made: as long as it
+ * lives, the first SIGINT or SIGTERM is only noted. The second ends the program at once.
+ */
+class Interruption {
+public:
+    Interruption();
+    ~Interruption();
+    Interruption(const Interruption&) = delete;
+    Interruption& operator=(const Interruption&) = delete;
+
+    /** Whether a signal has come. */
+    bool isAskedFor() const;
+};

@@ -1,0 +1,137 @@
+#include "batch/Production.h"
+
+#include "batch/Camera.h"
+#include "batch/FileName.h"
+#include "batch/ModelSet.h"
+#include "batch/OutputFormat.h"
+#include "batch/ShownDocument.h"
+#include "export/DataExport.h"
+#include "export/PrintedScene.h"
+#include "export/SceneExport.h"
+#include "export/StandardOutput.h"
+#include "export/TargetStreams.h"
+#include "export/WholeFile.h"
+#include "viewer/DocumentScene.h"
+#include "viewer/Lights.h"
+
+#include <Inventor/nodes/SoCamera.h>
+#include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <QFile>
+#include <ostream>
+
+namespace {
+
+std::unique_ptr<ByteTarget> targetOf(const Output& output, const std::string& fileName) {
+    if (OutputFormat::isStandardOutput(output)) {
+        return std::make_unique<StandardOutput>();
+    }
+    return std::make_unique<WholeFile>(QFile::decodeName(fileName.c_str()));
+}
+
+void writeText(Document document, ByteTarget& target, ModelSet& models) {
+    TargetBuffer buffer(target);
+    std::ostream stream(&buffer);
+    if (document == Document::helix) {
+        DataExport::writeHelix(stream, models.helix());
+    } else {
+        DataExport::writeHyperboloid(stream, models.surface(document));
+    }
+}
+
+std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& target) {
+    const CStream stream = cStreamTo(target);
+    if (stream == nullptr) {
+        return "there is no memory";
+    }
+    SceneExport::write(scene, format, stream.get());
+    return {};
+}
+
+} // namespace
+
+Production::Production(const BatchOptions& batchOptions)
+    : options(batchOptions) {}
+
+std::vector<std::string> Production::make(const HyperboloidParameters& set) {
+    if (const std::string refusal = ModelSet::refusal(set, options); !refusal.empty()) {
+        return {refusal};
+    }
+    ModelSet models(set, options);
+    std::vector<std::string> failures;
+    for (const Output& output : options.outputs) {
+        const std::string failure = make(output, set, models);
+        if (!failure.empty()) {
+            failures.push_back(failure);
+        }
+    }
+    return failures;
+}
+
+std::string Production::make(const Output& output, const HyperboloidParameters& set,
+                             ModelSet& models) {
+    const std::string fileName = FileName::of(output.file, set);
+    const std::unique_ptr<ByteTarget> target = targetOf(output, fileName);
+    std::string failure = target->errorString().toStdString();
+    if (failure.empty()) {
+        failure = write(output, *target, models);
+    }
+    if (failure.empty() && !target->commit()) {
+        failure = target->errorString().toStdString();
+    }
+    return failure.empty() ? failure : "Not made: " + fileName + " (" + failure + ")";
+}
+
+std::string Production::write(const Output& output, ByteTarget& target, ModelSet& models) {
+    if (output.kind == Output::Kind::text) {
+        writeText(output.document, target, models);
+        return {};
+    }
+    DocumentScene scene;
+    scene.setLook(options.look);
+    ShownDocument::draw(output.document, models, scene);
+    switch (OutputFormat::of(output)) {
+    case Format::openInventor:
+        return writeScene(*scene.getRoot(), SceneExport::Format::openInventor, target);
+    case Format::vrml:
+        return writeScene(*scene.getRoot(), SceneExport::Format::vrml, target);
+    default:
+        return writePicture(output, target, *scene.getRoot());
+    }
+}
+
+std::string Production::writePicture(const Output& output, ByteTarget& target, SoNode& scene) {
+    const std::string& failure = openRenderer();
+    if (!failure.empty()) {
+        return failure;
+    }
+    const NodePointer<SoDirectionalLight> headlight(Lights::createHeadlight());
+    const NodePointer<SoCamera> camera = Camera::of(output.document, options, scene);
+    const float lineWidth = static_cast<float>(options.paper.dotsPerInch) /
+                            static_cast<float>(options.paper.screenDotsPerInch);
+    const NodePointer<SoSeparator> picture =
+        PrintedScene::of(&scene, {*camera, headlight.get(), renderer->region()}, lineWidth);
+    if (!renderer->render(*picture)) {
+        return "the picture cannot be rendered";
+    }
+    const bool written = OutputFormat::of(output) == Format::png
+                             ? renderer->writePng(target)
+                             : renderer->writePostScript(cStreamTo(target).get());
+    return written || !target.errorString().isEmpty() ? std::string()
+                                                      : "the picture cannot be written";
+}
+
+const std::string& Production::openRenderer() {
+    if (!opened) {
+        opened = contexts.open();
+    }
+    if (opened->empty() && renderer == nullptr) {
+        const Paper& paper = options.paper;
+        const PictureRenderer::Size size{
+            SbVec2s(static_cast<short>(paper.width * paper.dotsPerInch),
+                    static_cast<short>(paper.height * paper.dotsPerInch)),
+            paper.dotsPerInch};
+        renderer = std::make_unique<PictureRenderer>(size, PictureRenderer::Manner());
+    }
+    return *opened;
+}

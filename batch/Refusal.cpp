@@ -1,0 +1,40 @@
+#include "batch/Refusal.h"
+
+#include "batch/Numbers.h"
+
+#include <cmath>
+
+namespace {
+
+std::string assignment(std::string_view name, double value) {
+    return std::string(name) + " = " + Numbers::text(value);
+}
+
+/** The values that a condition is on. */
+std::string numbersOf(HyperboloidCondition condition, const HyperboloidParameters& set) {
+    std::string text = assignment("K1", set.K1) + ", " + assignment("K2", set.K2);
+    if (condition == HyperboloidCondition::quadric) {
+        text += ", " + assignment("K3", set.K3) + ", " + assignment("K13", set.K13) + ", " +
+                assignment("K23", set.K23);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string Refusal::outOfRange(const HyperboloidParameter& parameter, double value) {
+    const std::string refused = assignment(parameter.name, value);
+    if (parameter.decimals == 0 && value != std::floor(value)) {
+        return refused + " is no whole number";
+    }
+    return refused + " is not in " + Numbers::text(parameter.minimum) + " to " +
+           Numbers::text(parameter.maximum);
+}
+
+std::string Refusal::brokenCondition(const HyperboloidParameters& set) {
+    const HyperboloidCondition broken = set.brokenCondition();
+    if (broken == HyperboloidCondition::none) {
+        return {};
+    }
+    return std::string(formulaOf(broken)) + " does not hold: " + numbersOf(broken, set);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdio>
+
+class SoNode;
+
+/** Scenes as files for other programs, by the scene library's own writers. */
+namespace SceneExport {
+
+enum class Format {
+    /** Open Inventor, as text (.iv). */
+    openInventor,
+    /**
+     * VRML97 (.wrl), which knows no shaders. Left out is what is at no finite place: nobody
+     * could show it, and the library's conversion would look for such a point for ever.
+     */
+    vrml
+};
+
+/** Writes a scene to an open file. */
+void write(SoNode& scene, Format format, std::FILE* file);
+
+} // namespace SceneExport

@@ -1,0 +1,149 @@
+#include "tests/batch/BatchProgram.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTransform>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+class BatchPictureTest : public testing::Test {
+protected:
+    /** Makes a small picture of a document without a display. */
+    QImage picture(const QString& document, const QStringList& options = {}) const {
+        const QString path = folder.filePath("picture.png");
+        QFile::remove(path);
+        const BatchProgram ended = BatchProgram::run(
+            QStringList{"--dpi", "60", "--image", document + "=" + path} +
+            (options.contains("--size") ? options : options + QStringList{"--size", "3x2"}));
+        EXPECT_EQ(ended.exitCode, 0);
+        EXPECT_EQ(ended.errors.toStdString(), "");
+        return QImage(path).convertToFormat(QImage::Format_RGB32);
+    }
+
+    static std::size_t colorCount(const QImage& image) {
+        std::set<QRgb> colors;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                colors.insert(image.pixel(x, y));
+            }
+        }
+        return colors.size();
+    }
+
+    /** The share of pixels that are not black. */
+    static double coveredShare(const QImage& image) {
+        int covered = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                covered += image.pixel(x, y) != qRgb(0, 0, 0) ? 1 : 0;
+            }
+        }
+        return static_cast<double>(covered) / (image.width() * image.height());
+    }
+
+    /** The share of pixels that are black in one picture only. */
+    static double differingShare(const QImage& one, const QImage& other) {
+        EXPECT_EQ(one.size(), other.size());
+        const QRgb black = qRgb(0, 0, 0);
+        int differing = 0;
+        for (int y = 0; y < one.height(); ++y) {
+            for (int x = 0; x < one.width(); ++x) {
+                differing += (one.pixel(x, y) == black) != (other.pixel(x, y) == black) ? 1 : 0;
+            }
+        }
+        return static_cast<double>(differing) / (one.width() * one.height());
+    }
+
+    /** Edges may fall on the one side of a pixel's middle or on the other. */
+    static constexpr double tolerance = 0.02;
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(BatchPictureTest, EveryDocumentIsDrawnWithoutADisplay) {
+    for (const char* document : {"U", "X", "M", "helix"}) {
+        const QImage image = picture(document);
+        EXPECT_EQ(image.size(), QSize(180, 120));
+        EXPECT_GT(colorCount(image), 50U) << document;
+        EXPECT_EQ(image.pixel(0, 0), qRgb(0, 0, 0));
+    }
+}
+
+TEST_F(BatchPictureTest, ResolutionStandsInThePicture) {
+    constexpr double inchesPerMetre = 1 / 0.0254;
+    EXPECT_EQ(picture("U").dotsPerMeterX(), qRound(60 * inchesPerMetre));
+}
+
+TEST_F(BatchPictureTest, PictureCanGoToStandardOutput) {
+    const QStringList size{"--size", "2x1", "--dpi", "50"};
+    EXPECT_TRUE(BatchProgram::run(size + QStringList{"--image", "X=-"})
+                    .output.startsWith("%!PS-Adobe-2.0 EPSF-1.2"));
+    const QImage image =
+        QImage::fromData(BatchProgram::run(size + QStringList{"--image", "X=-.png"}).output);
+    EXPECT_EQ(image.size(), QSize(100, 50));
+}
+
+TEST_F(BatchPictureTest, ZoomMakesLarger) {
+    const double share = coveredShare(picture("X"));
+    EXPECT_NEAR(coveredShare(picture("X", {"--zoom", "0.5"})) / share, 0.25, 0.05);
+}
+
+TEST_F(BatchPictureTest, OutlineFromBehindIsTheMirroredOne) {
+    const QImage front = picture("M", {"--look", "plain"});
+    const QImage behind = picture("M", {"--look", "plain", "--direction", "0,0,1"});
+    EXPECT_LT(differingShare(front.mirrored(true, false), behind), tolerance);
+    EXPECT_GT(differingShare(front, behind), tolerance);
+}
+
+TEST_F(BatchPictureTest, WhatIsUpTurnsThePicture) {
+    const QStringList square{"--look", "plain", "--size", "2x2"};
+    const QImage upright = picture("M", square);
+    // What was on the right is above.
+    const QImage turned = picture("M", square + QStringList{"--up", "1,0,0"});
+    EXPECT_LT(differingShare(upright.transformed(QTransform().rotate(-90)), turned), tolerance);
+    EXPECT_GT(differingShare(upright, turned), tolerance);
+}
+
+TEST_F(BatchPictureTest, LengthsOfDirectionsDoNotMatter) {
+    EXPECT_EQ(picture("U", {"--direction", "-0.5,-0.25,-1", "--up", "0,3,0"}),
+              picture("U", {"--direction", "-2,-1,-4", "--up", "0,1,0"}));
+}
+
+TEST_F(BatchPictureTest, FittedViewSeesAllOfALargerScene) {
+    const QStringList large{"--u3axis-range", "70", "--u3axis-radius", "3"};
+    EXPECT_NE(picture("X", large), picture("X", large + QStringList("--fit")));
+    const QImage fitted = picture("X", large + QStringList("--fit"));
+    for (int x = 0; x < fitted.width(); ++x) {
+        EXPECT_EQ(fitted.pixel(x, 0), qRgb(0, 0, 0));
+    }
+}
+
+TEST_F(BatchPictureTest, LooksDiffer) {
+    const QImage lit = picture("U");
+    const QImage plain = picture("U", {"--look", "plain"});
+    const QImage lines = picture("U", {"--look", "lines", "--screen-dpi", "200"});
+    EXPECT_NE(lit, plain);
+    EXPECT_LT(coveredShare(lines), coveredShare(plain));
+}
+
+TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade) {
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const BatchProgram ended =
+        BatchProgram::run({"--image", "U=u.png", "--text", "U=u.txt", "--image", "X=x.png"},
+                          folder.path(), environment);
+    EXPECT_EQ(ended.exitCode, 1);
+    const QByteArray reason =
+        "there is no OpenGL, neither without a display (EGL, platform "
+        "surfaceless: opening the platform fails with EGL error 0x300c) nor on one (DISPLAY names "
+        "none); install libegl1 and libgl1-mesa-dri";
+    EXPECT_EQ(
+        ended.errors.toStdString(),
+        ("Not made: u.png (" + reason + ")\nNot made: x.png (" + reason + ")\n").toStdString());
+    EXPECT_TRUE(QFile::exists(folder.filePath("u.txt")));
+    EXPECT_FALSE(QFile::exists(folder.filePath("u.png")));
+}

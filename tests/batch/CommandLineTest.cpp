@@ -1,0 +1,193 @@
+#include "batch/CommandLine.h"
+
+#include <QTemporaryDir>
+#include <cmath>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+
+class CommandLineTest : public testing::Test {
+protected:
+    /** Reads arguments; what the program says is in `said`. */
+    CommandLine::Result read(std::vector<const char*> arguments) {
+        arguments.insert(arguments.begin(), "torvane-batch");
+        testing::internal::CaptureStderr();
+        testing::internal::CaptureStdout();
+        auto result = CommandLine::read(static_cast<int>(arguments.size()), arguments.data());
+        said = testing::internal::GetCapturedStderr();
+        helped = testing::internal::GetCapturedStdout();
+        return result;
+    }
+
+    /** Reads arguments that must be taken, and an output. */
+    BatchOptions taken(std::vector<const char*> arguments) {
+        arguments.insert(arguments.end(), {"--text", "U=u.txt"});
+        const auto result = read(arguments);
+        EXPECT_TRUE(result.options) << said;
+        return result.options.value_or(BatchOptions());
+    }
+
+    /** Expects arguments to be refused, and the reason to be the first line. */
+    void expectRefused(std::vector<const char*> arguments, const std::string& reason) {
+        const auto result = read(std::move(arguments));
+        EXPECT_FALSE(result.options);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_EQ(said.substr(0, said.find('\n')), reason);
+    }
+
+    std::string said;
+    std::string helped;
+};
+
+} // namespace
+
+TEST_F(CommandLineTest, EveryParameterHasAnOptionOfItsNameAndRange) {
+    for (const HyperboloidParameter& parameter : HyperboloidParameters::all()) {
+        const std::string name = "--" + std::string(parameter.name);
+        const auto set = [&](const std::string& text) {
+            return taken({name.c_str(), text.c_str()}).parameters;
+        };
+        const auto least = static_cast<int>(std::ceil(parameter.minimum));
+        EXPECT_EQ(parameter.valueIn(set(std::to_string(least))), least) << name;
+        EXPECT_EQ(parameter.valueIn(set("7")), 7) << name;
+        expectRefused({name.c_str(), "100000"},
+                      name + ": 100000 is not in " +
+                          (parameter.minimum == 0.01 ? "0.01" : std::to_string(least)) + " to " +
+                          std::to_string(static_cast<int>(parameter.maximum)));
+    }
+}
+
+TEST_F(CommandLineTest, RealNumbersStayDoublesAndCountsAreWhole) {
+    EXPECT_EQ(taken({"--K13", "-0.123456789012"}).parameters.K13, -0.123456789012);
+    expectRefused({"--rows", "5.5"}, "--rows: 5.5 is no whole number");
+    expectRefused({"--K1", "1,5"}, "--K1: 1,5 is no number");
+    expectRefused({"--K1", "nan"}, "--K1: nan is no number");
+}
+
+TEST_F(CommandLineTest, GridIsColumnsAndRows) {
+    const HyperboloidParameters set = taken({"--grid", "17x33"}).parameters;
+    EXPECT_EQ(set.horizontalPrecision, 17);
+    EXPECT_EQ(set.verticalPrecision, 33);
+    expectRefused({"--grid", "4x33"}, "--grid: 4 is not in 5 to 500");
+    expectRefused({"--grid", "17"}, "--grid: 17 is not two whole numbers with an x between them");
+    expectRefused({"--grid", "17x33", "--rows", "9", "--text", "U=-"}, "--rows excludes --grid");
+}
+
+TEST_F(CommandLineTest, HelixIsPlacedByVertexOrByPoint) {
+    EXPECT_EQ(std::get<int>(taken({"--vertex", "77"}).helixPoint), 77);
+    const auto place = std::get<ColumnAndRow>(taken({"--vertex", "3,9"}).helixPoint);
+    EXPECT_EQ(place.column, 3);
+    EXPECT_EQ(place.row, 9);
+    const auto point = std::get<FloatTriple>(taken({"--u", "-0.25,1.5,2"}).helixPoint);
+    EXPECT_EQ(point.x, -0.25F);
+    EXPECT_EQ(point.y, 1.5F);
+    EXPECT_EQ(point.z, 2.0F);
+    expectRefused({"--vertex", "1,2,3"}, "--vertex: 1,2,3 is neither INDEX nor COLUMN,ROW");
+    expectRefused({"--u", "1,2"}, "--u: 1,2 is not three numbers separated by commas");
+    expectRefused({"--u", "1,2,3", "--vertex", "1"}, "--vertex excludes --u");
+}
+
+TEST_F(CommandLineTest, HelixHasItsFiveValues) {
+    const BatchOptions options =
+        taken({"--tube-radius", "0.0173", "--ribbon-range", "0.2", "--turns", "3",
+               "--line-precision", "111", "--tube-precision", "9"});
+    const std::array<std::optional<double>, 5> expected{0.0173, 0.2, 3, 111, 9};
+    EXPECT_EQ(options.helixValues, expected);
+    expectRefused({"--tube-radius", "0.11"}, "--tube-radius: 0.11 is not in 0 to 0.1");
+    expectRefused({"--turns", "11"}, "--turns: 11 is not in 0 to 10");
+}
+
+TEST_F(CommandLineTest, PicturesHaveLookCameraAndSize) {
+    const BatchOptions options =
+        taken({"--transparency", "40", "--look", "lines", "--camera", "perspective", "--direction",
+               "1,-2,0", "--up", "0,0,1", "--zoom", "1.5", "--fit", "--size", "3x2", "--dpi", "150",
+               "--screen-dpi", "72.5"});
+    EXPECT_EQ(options.appearance.transparency, 40);
+    EXPECT_EQ(options.appearance.lightness, std::nullopt);
+    EXPECT_EQ(options.look, DocumentScene::Look::lines);
+    EXPECT_TRUE(options.viewpoint.perspective);
+    EXPECT_EQ(options.viewpoint.direction, SbVec3f(1, -2, 0));
+    EXPECT_EQ(options.viewpoint.up, SbVec3f(0, 0, 1));
+    EXPECT_EQ(options.viewpoint.zoom, 1.5);
+    EXPECT_TRUE(options.viewpoint.fitted);
+    EXPECT_EQ(options.paper.width, 3);
+    EXPECT_EQ(options.paper.height, 2);
+    EXPECT_EQ(options.paper.dotsPerInch, 150);
+    EXPECT_EQ(options.paper.screenDotsPerInch, 72.5);
+    expectRefused({"--look", "shiny"}, "--look: There is no look shiny, only lit, plain and lines");
+    expectRefused({"--camera", "fish"},
+                  "--camera: There is no camera fish, only orthographic and perspective");
+    expectRefused({"--zoom", "0"}, "--zoom: 0 is not in 0.001 to 1000");
+}
+
+TEST_F(CommandLineTest, OutputsNameDocumentFileAndKind) {
+    const auto result = read({"--text", "U=a.txt", "--image", "helix=b=c.png", "--scene", "M=d.wrl",
+                              "--image", "X=e.eps"});
+    ASSERT_TRUE(result.options) << said;
+    ASSERT_EQ(result.options->outputs.size(), 4U);
+    EXPECT_EQ(result.options->outputs[1].file, "b=c.png");
+    EXPECT_EQ(result.options->outputs[1].document, Document::helix);
+    expectRefused({"--text", "u.txt"}, "--text: u.txt is not DOCUMENT=FILE");
+    expectRefused({"--text", "Z=u.txt"}, "--text: There is no document Z, only U, X, M and helix");
+    expectRefused({"--image", "U=u.jpg"}, "--image: u.jpg ends neither in .eps nor in .png");
+    expectRefused({"--scene", "U=u.obj"}, "--scene: u.obj ends neither in .iv nor in .wrl");
+    expectRefused({"--text", "U={K14}.txt"}, "--text: There is no parameter K14");
+}
+
+TEST_F(CommandLineTest, ContradictionsAreRefused) {
+    expectRefused({}, "Nothing is to be made: give --text, --image or --scene (--help tells more)");
+    expectRefused({"--text", "U=-", "--image", "X=-.png"}, "- is to be written twice");
+    expectRefused({"--text", "U=a.txt", "--text", "X=a.txt"}, "a.txt is to be written twice");
+    expectRefused({"--sweep", "K13=0:0.5:3", "--text", "U=a.txt"},
+                  "a.txt would be written again and again: {K13} is not in its name");
+    expectRefused({"--sweep", "K13=0:1:2", "--sweep", "K13=0:1:2", "--text", "U={K13}"},
+                  "K13 is swept twice");
+    expectRefused({"--K13", "1", "--sweep", "K13=0:1:2", "--text", "U={K13}"},
+                  "K13 is both given and swept");
+    expectRefused({"--grid", "9x9", "--sweep", "rows=5:6:2", "--text", "U={rows}"},
+                  "rows is both given and swept");
+    expectRefused({"--direction", "0,0,0", "--text", "U=-"},
+                  "A direction of the camera has the length 0");
+    expectRefused({"--direction", "0,-2,0", "--text", "U=-"},
+                  "What is up in the picture may not be where the camera looks");
+    expectRefused({"--size", "110x5", "--text", "U=-"},
+                  "A picture is 32767 dots wide and high at most");
+}
+
+TEST_F(CommandLineTest, OptionsCanStandInAFile) {
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("options.toml").toStdString();
+    std::ofstream(path) << "K13 = 0.25\nvertex = \"3,4\"\nfit = true\n"
+                           "text = [\"U=a.txt\", \"X=b.txt\"]\n";
+    const auto result = read({"--config", path.c_str(), "--K23", "0.125"});
+    ASSERT_TRUE(result.options) << said;
+    EXPECT_EQ(result.options->parameters.K13, 0.25);
+    EXPECT_EQ(result.options->parameters.K23, 0.125);
+    EXPECT_TRUE(result.options->viewpoint.fitted);
+    EXPECT_EQ(std::get<ColumnAndRow>(result.options->helixPoint).row, 4);
+    EXPECT_EQ(result.options->outputs.size(), 2U);
+    EXPECT_EQ(result.options->words,
+              (std::vector<std::string>{"--K13=0.25", "--K23=0.125", "--vertex=3,4", "--fit"}));
+}
+
+TEST_F(CommandLineTest, UnknownOptionsAndFilesAreRefused) {
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("options.ini").toStdString();
+    std::ofstream(path) << "K14 = 0.25\n";
+    expectRefused({"--config", path.c_str(), "--text", "U=-"}, "INI was not able to parse K14");
+    const std::string missing = folder.filePath("missing.ini").toStdString();
+    expectRefused({"--config", missing.c_str(), "--text", "U=-"},
+                  missing + " was not readable (missing?)");
+    expectRefused({"--K14", "1"}, "The following arguments were not expected: 1 --K14");
+}
+
+TEST_F(CommandLineTest, HelpNamesRangesAndStartValues) {
+    const auto result = read({"--help"});
+    EXPECT_FALSE(result.options);
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_NE(helped.find("--K2 NUMBER"), std::string::npos);
+    EXPECT_NE(helped.find("second diagonal entry of K (0.01 to 100; start value 1.5)"),
+              std::string::npos);
+    EXPECT_NE(helped.find("radius of the tube (0 to 0.1; start value 0.01)"), std::string::npos);
+}
