@@ -17,6 +17,8 @@ public:
     /** How often each view was drawn since the last call. */
     std::vector<int> drawings() { return counters.take(); }
 
+    bool waitUntilAllAreDrawn() const { return counters.waitUntilAllAreDrawn(); }
+
     const OpenedWindow opened;
 
 private:
@@ -99,5 +101,6 @@ TEST(Redraw, ActivatingADocumentDrawsNothing) {
 TEST(Redraw, ResizingDrawsEveryViewOnce) {
     CountedWindow counted;
     counted.opened.window().resize(1100, 900);
+    EXPECT_TRUE(counted.waitUntilAllAreDrawn());
     EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
 }

@@ -31,11 +31,18 @@ void fling(const RunningViewer& viewer, const QRect& view) {
 
 bool isMoving(const RunningViewer& viewer, const QRect& view) {
     constexpr unsigned long severalPictures = 300;
-    const QImage first = viewer.screen(view);
-    QThread::msleep(severalPictures);
-    const QImage second = viewer.screen(view);
-    QThread::msleep(severalPictures);
-    return first != second && second != viewer.screen(view);
+    // For a moment a busy machine still draws the moves of the mouse.
+    constexpr int looks = 6;
+    QImage last = viewer.screen(view);
+    for (int look = 0; look < looks; ++look) {
+        QThread::msleep(severalPictures);
+        const QImage now = viewer.screen(view);
+        if (now == last) {
+            return false;
+        }
+        last = now;
+    }
+    return true;
 }
 
 /** Flings a view until it spins: moves that a busy machine hands on too late are no fling. */

@@ -24,6 +24,7 @@ void expectMovesEverywhere(const RunningViewer& viewer, Action action) {
     const std::vector<QRect> places{viewer.helixView(), viewer.uView(), viewer.xView(),
                                     viewer.mView(), viewer.statusBar()};
     std::vector<QImage> before;
+    before.reserve(places.size());
     const QImage seen = viewer.screen();
     for (const QRect& place : places) {
         before.push_back(seen.copy(place));

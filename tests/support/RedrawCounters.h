@@ -2,6 +2,7 @@
 
 #include "tests/support/RedrawCounter.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -13,6 +14,14 @@ public:
             counters.push_back(std::make_unique<RedrawCounter>(*frame));
         }
         take();
+    }
+
+    /** For drawings that the window system asks for, and not the scene. */
+    bool waitUntilAllAreDrawn() const {
+        return waitUntil([&] {
+            return std::all_of(counters.begin(), counters.end(),
+                               [](const auto& counter) { return counter->soFar() > 0; });
+        });
     }
 
     /** How often each frame was drawn since the last call, in the order of the frames. */
