@@ -1,5 +1,6 @@
 // What the program makes without a display, beside what the viewer saves on one.
 
+#include "app/ImageExport.h"
 #include "hyperboloid/HyperboloidParameters.h"
 #include "tests/batch/BatchProgram.h"
 #include "tests/export/PrintedViews.h"
@@ -57,6 +58,9 @@ QStringList optionsOf(const HyperboloidParameters& set) {
 
 class SameAsViewer : public PrintedViews {
 protected:
+    // Each case is about a viewer that has just started.
+    SameAsViewer() { closeAfterwards(); }
+
     /** Enters a set into the viewer as it was when it had just started. */
     void enter(const HyperboloidParameters& set) {
         for (const HyperboloidParameters& p : {HyperboloidParameters(), set}) {
@@ -97,7 +101,10 @@ protected:
     }
 
     QByteArray madePicture(int document, const QStringList& options) {
-        const SbVec2s size = expectedSize(frameOf(document));
+        const SoQtGeneralViewer& viewer = *frameOf(document).getViewer();
+        const SbVec2s size =
+            ImageExport::printSize(viewer.getViewportRegion().getViewportSizePixels(),
+                                   SoOffscreenRenderer::getScreenPixelsPerInch(), printer);
         const QString name = folder.filePath("batch.eps");
         const BatchProgram ended = BatchProgram::run(
             options +
