@@ -10,8 +10,8 @@ StatusMessage::StatusMessage(QMainWindow& mainWindow)
 }
 
 void StatusMessage::say(const std::optional<QString>& text) {
-    lastText = text.value_or(lastText);
     if (text) {
+        lastText = *text;
         window.statusBar()->showMessage(lastText);
     }
 }

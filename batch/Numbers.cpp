@@ -28,6 +28,16 @@ std::optional<int> Numbers::readWhole(std::string_view text) {
     return readAll<int>(text);
 }
 
+std::string Numbers::fault(double value, double minimum, double maximum, bool whole) {
+    if (whole && value != std::floor(value)) {
+        return "is no whole number";
+    }
+    if (value < minimum || value > maximum) {
+        return "is not in " + text(minimum) + " to " + text(maximum);
+    }
+    return {};
+}
+
 std::vector<std::string_view> Numbers::split(std::string_view text, char separator) {
     std::vector<std::string_view> parts;
     std::size_t end = text.find(separator);

@@ -35,11 +35,9 @@ double OptionTexts::number(const std::string& text, double minimum, double maxim
     if (!value) {
         refuse(text + " is no number");
     }
-    if (whole && *value != std::floor(*value)) {
-        refuse(text + " is no whole number");
-    }
-    if (*value < minimum || *value > maximum) {
-        refuse(text + " is not in " + Numbers::text(minimum) + " to " + Numbers::text(maximum));
+    const std::string fault = Numbers::fault(*value, minimum, maximum, whole);
+    if (!fault.empty()) {
+        refuse(text + " " + fault);
     }
     return *value;
 }

@@ -2,8 +2,6 @@
 
 #include "batch/Numbers.h"
 
-#include <cmath>
-
 namespace {
 
 std::string assignment(std::string_view name, double value) {
@@ -23,12 +21,8 @@ std::string numbersOf(HyperboloidCondition condition, const HyperboloidParameter
 } // namespace
 
 std::string Refusal::outOfRange(const HyperboloidParameter& parameter, double value) {
-    const std::string refused = assignment(parameter.name, value);
-    if (parameter.decimals == 0 && value != std::floor(value)) {
-        return refused + " is no whole number";
-    }
-    return refused + " is not in " + Numbers::text(parameter.minimum) + " to " +
-           Numbers::text(parameter.maximum);
+    return assignment(parameter.name, value) + " " +
+           Numbers::fault(value, parameter.minimum, parameter.maximum, parameter.decimals == 0);
 }
 
 std::string Refusal::brokenCondition(const HyperboloidParameters& set) {

@@ -1,8 +1,20 @@
 #include "export/ByteTarget.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <unistd.h>
+
+ByteTarget::ByteTarget()
+    : previousHandler(std::signal(SIGPIPE, SIG_IGN)) {}
+
+ByteTarget::~ByteTarget() {
+    std::signal(SIGPIPE, previousHandler);
+}
+
+QString ByteTarget::systemError() {
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
 
 void ByteTarget::writeTo(int handle, const char* text, std::size_t size) {
     // Not by way of the toolkit, which takes the half that found room for the whole.
@@ -16,7 +28,7 @@ void ByteTarget::writeTo(int handle, const char* text, std::size_t size) {
         if (count > 0) {
             written += static_cast<std::size_t>(count);
         } else if (errno != EINTR) {
-            failure = QString::fromLocal8Bit(std::strerror(errno));
+            failure = systemError();
         }
     }
 }

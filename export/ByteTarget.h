@@ -3,12 +3,15 @@
 #include <QString>
 #include <cstddef>
 
-/** Where the bytes of an export go. It remembers its first failure; after one nothing is written.
+/**
+ * Where the bytes of an export go. It remembers its first failure; after one nothing is written. A
+ * pipe whose reader has gone is such a failure, and does not end the program as long as this object
+ * lives.
  */
 class ByteTarget {
 public:
-    ByteTarget() = default;
-    virtual ~ByteTarget() = default;
+    ByteTarget();
+    virtual ~ByteTarget();
     ByteTarget(const ByteTarget&) = delete;
     ByteTarget& operator=(const ByteTarget&) = delete;
 
@@ -22,8 +25,14 @@ public:
     QString errorString() const { return failure; }
 
 protected:
+    /** What the system's last call failed with, in words. */
+    static QString systemError();
+
     /** Writes to an open file, however many pieces the system takes it in. */
     void writeTo(int handle, const char* text, std::size_t size);
 
     QString failure;
+
+private:
+    void (*previousHandler)(int);
 };

@@ -2,8 +2,6 @@
 
 #include <QFileInfo>
 #include <cerrno>
-#include <csignal>
-#include <cstring>
 #include <filesystem>
 #include <unistd.h>
 
@@ -43,10 +41,6 @@ fs::path behindLinks(fs::path path, std::error_code& error) {
     return path;
 }
 
-QString systemError() {
-    return QString::fromLocal8Bit(std::strerror(errno));
-}
-
 /** Some file systems notice only now that they are full; pipes and devices know no such thing. */
 bool reachesTheDisk(int handle) {
     int result = 0;
@@ -59,8 +53,7 @@ bool reachesTheDisk(int handle) {
 } // namespace
 
 WholeFile::WholeFile(const QString& fileName)
-    : previousHandler(std::signal(SIGPIPE, SIG_IGN))
-    , direct(fileName) {
+    : direct(fileName) {
     const fs::path path(QFile::encodeName(fileName).constData());
     std::error_code error;
     // QSaveFile would put a file in a device's place, and in that of the second of two links.
@@ -82,10 +75,6 @@ void WholeFile::openBeside(const std::filesystem::path& target) {
         const bool isRefused = access(target.c_str(), W_OK) != 0 && errno != ENOENT;
         failure = isRefused ? systemError() : replacement.errorString();
     }
-}
-
-WholeFile::~WholeFile() {
-    std::signal(SIGPIPE, previousHandler);
 }
 
 int WholeFile::handle() const {

@@ -9,16 +9,12 @@
 /**
  * A file that comes into being whole or not at all: what is written goes beside it first, and an
  * older file stays untouched until commit(). Symbolic links are followed and stay; what is no file,
- * such as a device or a pipe, is written to directly. A pipe whose reader has gone fails to be
- * written and does not end the program as long as this object lives.
+ * such as a device or a pipe, is written to directly.
  */
 class WholeFile : public ByteTarget {
 public:
     /** Opens a file for writing. */
     explicit WholeFile(const QString& fileName);
-    ~WholeFile() override;
-    WholeFile(const WholeFile&) = delete;
-    WholeFile& operator=(const WholeFile&) = delete;
 
     bool isOpen() const { return direct.isOpen() || replacement.isOpen(); }
 
@@ -38,7 +34,6 @@ private:
     void openBeside(const std::filesystem::path& target);
     int handle() const;
 
-    void (*previousHandler)(int);
     /** What is no file, open in place of the replacement. */
     QFile direct;
     QSaveFile replacement;

@@ -1,14 +1,13 @@
 #include "viewer/SurfacelessContexts.h"
 
-#define GL_GLEXT_PROTOTYPES
+#include "viewer/OffscreenCallbacks.h"
+
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 #include <GL/gl.h>
 #include <GL/glext.h>
-#include <Inventor/C/glue/gl.h>
 
 #include <array>
-#include <cstddef>
 #include <iomanip>
 #include <memory>
 #include <sstream>
@@ -37,7 +36,7 @@ bool bind(EGLContext context) {
 }
 
 /** One context with the framebuffer that it draws into. */
-class SurfacelessContext {
+class SurfacelessContext : public OffscreenCallbacks::EmptyCoinRecord {
 public:
     static std::unique_ptr<SurfacelessContext> create(int width, int height) {
         auto created = std::make_unique<SurfacelessContext>();
@@ -81,8 +80,6 @@ public:
     void reinstatePrevious() { static_cast<void>(bind(previous)); }
 
 private:
-    static constexpr std::size_t coinRecordSize = 128;
-
     /** In the current context; whether it can be drawn into. */
     bool createFramebuffer(int width, int height) {
         glGenRenderbuffers(static_cast<GLsizei>(buffers.size()), buffers.data());
@@ -99,33 +96,12 @@ private:
         glFramebufferRenderbuffer(GL_FRAMEBUFFER, attachment, GL_RENDERBUFFER, buffer);
     }
 
-    /**
-     * Coin 4.0 hands this object to its own GLX code when it asks for the largest size, and reads
-     * it as its private record; zeros stand for a record without pixel buffer, which is harmless.
-     */
-    std::array<std::byte, coinRecordSize> emptyCoinRecord{};
     EGLContext context;
     EGLContext previous = EGL_NO_CONTEXT;
     GLuint framebuffer = 0;
     /** Colour; depth and stencil. */
     std::array<GLuint, 2> buffers{};
 };
-
-cc_glglue_offscreen_data createOffscreen(unsigned int width, unsigned int height) {
-    return SurfacelessContext::create(static_cast<int>(width), static_cast<int>(height)).release();
-}
-
-SbBool makeCurrent(cc_glglue_offscreen_data context) {
-    return static_cast<SurfacelessContext*>(context)->makeCurrent() ? TRUE : FALSE;
-}
-
-void reinstatePrevious(cc_glglue_offscreen_data context) {
-    static_cast<SurfacelessContext*>(context)->reinstatePrevious();
-}
-
-void destruct(cc_glglue_offscreen_data context) {
-    const std::unique_ptr<SurfacelessContext> owned(static_cast<SurfacelessContext*>(context));
-}
 
 std::string failure(const char* what) {
     std::ostringstream text;
@@ -171,9 +147,7 @@ std::string SurfacelessContexts::install() {
         reason = tryOut();
     }
     if (reason.empty()) {
-        static cc_glglue_offscreen_cb_functions functions{createOffscreen, makeCurrent,
-                                                          reinstatePrevious, destruct};
-        cc_glglue_context_set_offscreen_cb_functions(&functions);
+        OffscreenCallbacks::install<SurfacelessContext>();
     }
     return reason;
 }

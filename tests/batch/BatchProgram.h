@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/support/FileContent.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -39,8 +40,3 @@ struct BatchProgram {
                 process.readAllStandardError()};
     }
 };
-
-inline QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("absent");
-}

@@ -2,6 +2,7 @@
 // fails late, and it is interrupted.
 
 #include "export/WholeFile.h"
+#include "tests/support/FileContent.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -24,11 +25,6 @@
 #include <unistd.h>
 
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "absent";
-}
 
 /** From now on nothing that this process writes can be brought to the disk; false if it can. */
 bool breakDisk() {

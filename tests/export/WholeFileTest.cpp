@@ -1,5 +1,6 @@
 #include "export/WholeFile.h"
 
+#include "tests/support/FileContent.h"
 #include "tests/support/LargestFileSize.h"
 #include "tests/support/SmallDisk.h"
 
@@ -25,10 +26,7 @@ class WholeFileTest : public testing::Test {
 protected:
     QString path(const char* name) const { return folder.filePath(name); }
 
-    QByteArray contentOf(const char* name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : "absent";
-    }
+    QByteArray contentOf(const char* name) const { return ::contentOf(path(name)); }
 
     void create(const char* name, const QByteArray& content = older) const {
         QFile file(path(name));

@@ -78,9 +78,27 @@ protected:
         return spaces.fromU(spaces.uFromX(x), space);
     }
 
-    /** The plane's value at place + t direction, given in X space. */
-    double valueAt(const SbVec4d& plane, const Triple& place, const Triple& direction, double t) {
-        return plane.dot(homogeneous(toSpace(place + t * direction), 1));
+    /** A line place + t direction of X space. */
+    struct Line {
+        Triple place;
+        Triple direction;
+    };
+    /** Where such a line meets the two walls, as t, and where the plane is to cut it. */
+    struct Cuts {
+        double near;
+        double plane;
+        double far;
+    };
+
+    void expectCuts(const SbVec4d& plane, const Line& line, const Cuts& cuts) const {
+        const auto valueAt = [&](double t) {
+            return plane.dot(homogeneous(toSpace(line.place + t * line.direction), 1));
+        };
+        const double near = valueAt(cuts.near);
+        const double far = valueAt(cuts.far);
+        EXPECT_GT(near, 0);
+        EXPECT_LT(far, 0);
+        EXPECT_NEAR(valueAt(cuts.plane), 0, 1e-6 * (near - far));
     }
 
     const int space = std::get<1>(GetParam());
@@ -102,12 +120,8 @@ TEST_P(HyperboloidPolarityIn, ItsPlaneCutsEachLineOfSightAtTheHarmonicMean) {
         }
         ++seen;
         const SbVec4d plane = polarity.planeBeforeFarWall(homogeneous(toSpace(eye), 1));
-        const double near = valueAt(plane, eye, direction, met->first);
-        const double far = valueAt(plane, eye, direction, met->second);
         const double mean = 2 * met->first * met->second / (met->first + met->second);
-        EXPECT_GT(near, 0);
-        EXPECT_LT(far, 0);
-        EXPECT_NEAR(valueAt(plane, eye, direction, mean), 0, 1e-6 * (near - far));
+        expectCuts(plane, {eye, direction}, {met->first, mean, met->second});
     }
     EXPECT_GT(seen, 100);
 }
@@ -123,13 +137,9 @@ TEST_P(HyperboloidPolarityIn, ItsPlaneHalvesParallelLinesOfSight) {
         }
         const SbVec4d plane =
             polarity.planeBeforeFarWall(homogeneous(toSpace(towardsEye) - toSpace({0, 0, 0}), 0));
-        const double near = valueAt(plane, place, towardsEye, met->second);
-        const double far = valueAt(plane, place, towardsEye, met->first);
         ++seen;
         const double middle = (met->first + met->second) / 2;
-        EXPECT_GT(near, 0);
-        EXPECT_LT(far, 0);
-        EXPECT_NEAR(valueAt(plane, place, towardsEye, middle), 0, 1e-6 * (near - far));
+        expectCuts(plane, {place, towardsEye}, {met->second, middle, met->first});
     }
     EXPECT_GT(seen, 100);
 }

@@ -14,19 +14,6 @@ import time
 from .changes import changes_of
 from .record import KILLED, NOT_COMPILED, SURVIVED, Verdict
 
-# Outermost last. A change is first looked at by the tests of its own layer, then by those above.
-LAYERS = [
-    "math",
-    "scene",
-    "helix",
-    "hyperboloid",
-    "resources",
-    "viewer",
-    "app",
-    "export",
-    "program",
-    "random",
-]
 # Programs without windows see in a moment what others need a minute for.
 KINDS = ["model", "widget", "window"]
 LEFT_OUT = {"random_user", "long_use_test"}
@@ -37,10 +24,10 @@ LARGEST_MEMORY = 6 << 30
 class Program:
     """A test program, how it is started, and how far from the models it stands."""
 
-    def __init__(self, name, command, kind, layer):
+    def __init__(self, name, command, rank):
         self.name = name
         self.command = command
-        self.rank = (KINDS.index(kind), LAYERS.index(layer))
+        self.rank = rank
 
 
 class Workshop:
@@ -100,9 +87,13 @@ class Workshop:
         return changes_of(self.folder, sorted(sources.items()), layers)
 
     def listed_programs(self):
-        """Every test program that ctest knows, each once."""
+        """Every test program that ctest knows, each once.
+
+        It knows them in the order of the layers, the models first.
+        """
         listed = json.loads(self.output("ctest", "--test-dir", "build", "--show-only=json-v1"))
         programs = {}
+        layers = []
         for test in listed["tests"]:
             labels = next((p["value"] for p in test["properties"] if p["name"] == "LABELS"), [""])
             binaries = [
@@ -117,7 +108,11 @@ class Workshop:
                     str(pathlib.Path(word).relative_to(self.folder))
                     for word in [*before, binaries[0]]
                 ]
-                programs[name] = Program(name, command, labels[0], self.layer_of(name))
+                layer = self.layer_of(name)
+                if layer not in layers:
+                    layers.append(layer)
+                rank = (KINDS.index(labels[0]), layers.index(layer))
+                programs[name] = Program(name, command, rank)
         return list(programs.values())
 
     def layer_of(self, name):
