@@ -90,10 +90,10 @@ public:
         int count = 0;
         for (int y = step; y < picture.height() - crossSize; y += step) {
             for (int x = step; x < picture.width() - crossSize; x += step) {
-                const SoPickedPointList walls = wallsAt(x, picture.height() - 1 - y);
                 if (!isPlain(picture, x, y)) {
                     continue;
                 }
+                const SoPickedPointList walls = wallsAt(x, picture.height() - 1 - y);
                 const QColor seen = picture.pixelColor(x, y);
                 EXPECT_TRUE(blended(walls).holds(seen))
                     << walls.getLength() << " walls at " << x << " " << y << ": " << seen.red()
@@ -115,7 +115,7 @@ private:
     static constexpr int phongBranch = 2;
     static constexpr int drawStyleBranch = 3;
     /** Pixels between two places that are looked at. */
-    static constexpr int step = 17;
+    static constexpr int step = 23;
     /** Room for the viewer's cross of axes in the corner. */
     static constexpr int crossSize = 130;
 
@@ -223,7 +223,7 @@ TEST_P(TransparencyIn, BothWallsAreSeenEverywhereFromEveryDirection) {
             doubles += surface.rightDoubles();
         }
     }
-    EXPECT_GT(doubles, 300);
+    EXPECT_GT(doubles, 160);
 }
 
 TEST_P(TransparencyIn, OpaqueSurfaceLooksAsTheLibrarysOwnMeshDoes) {
