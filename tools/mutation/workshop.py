@@ -102,13 +102,14 @@ class Workshop:
             if not binaries or labels[0] not in KINDS:
                 continue
             name = pathlib.Path(binaries[0]).name
-            if name not in LEFT_OUT and name not in programs:
+            layer = self.layer_of(name)
+            # Scripts that start the program itself are no test programs.
+            if layer and name not in LEFT_OUT and name not in programs:
                 before = test["command"][: test["command"].index(binaries[0])]
                 command = [
                     str(pathlib.Path(word).relative_to(self.folder))
                     for word in [*before, binaries[0]]
                 ]
-                layer = self.layer_of(name)
                 if layer not in layers:
                     layers.append(layer)
                 rank = (KINDS.index(labels[0]), layers.index(layer))
@@ -116,9 +117,10 @@ class Workshop:
         return list(programs.values())
 
     def layer_of(self, name):
-        """The folder of the program's sources."""
+        """The folder of a test program's sources; empty for another program."""
         inputs = self.output("ninja", "-C", "build", "-t", "query", f"bin/{name}")
-        return re.search(r"tests/(\w+)/CMakeFiles", inputs)[1]
+        found = re.search(r"tests/(\w+)/CMakeFiles", inputs)
+        return found[1] if found else ""
 
     def seconds(self, program):
         """How long a program takes while nothing is changed. It must pass."""
