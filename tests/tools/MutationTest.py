@@ -1,13 +1,17 @@
-"""Where tools/mutate sees something to change, and that a stopped run is taken up where it was."""
+"""Where tools/mutate sees something to change, which programs it runs, and how it is taken up again."""
 
 import contextlib
 import io
+import os
 import pathlib
 import tempfile
 import unittest
 
 from mutation.changes import Change, changes_of
 from mutation.record import KILLED, NOT_COMPILED, SURVIVED, Record, Verdict
+from mutation.workshop import Workshop
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 SOURCE = """\
 double area(double width, double height);
@@ -157,6 +161,23 @@ class RecordTest(unittest.TestCase):
         ):
             self.assertIn(line, summary)
         self.assertTrue(summary.endswith(f"survived: {record.changes[4]}\n"))
+
+
+class WorkshopTest(unittest.TestCase):
+    def test_every_test_program_is_known_and_no_other_those_of_the_models_first(self):
+        workshop = Workshop(ROOT, ROOT, "HEAD")
+        workshop.build = pathlib.Path(os.environ["TORVANE_BUILD"])
+        programs = sorted(workshop.listed_programs(), key=lambda program: program.rank)
+        names = [program.name for program in programs]
+        built = {program.name for program in (workshop.build / "bin").glob("*_test")}
+        self.assertEqual(set(names), built - {"long_use_test"})
+        self.assertEqual(len(names), len(set(names)))
+        self.assertEqual(names[:2], ["math_test", "scene_test"])
+        self.assertLess(names.index("batch_test"), names.index("app_widget_test"))
+        self.assertLess(names.index("app_widget_test"), names.index("helix_frame_test"))
+        commands = {program.name: program.command for program in programs}
+        self.assertEqual(len(commands["math_test"]), 1)
+        self.assertEqual(commands["viewer_test"][0], "tests/support/on_own_display")
 
 
 if __name__ == "__main__":

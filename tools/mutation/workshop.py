@@ -64,7 +64,7 @@ class Workshop:
             "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
             stdout=subprocess.DEVNULL,
         )
-        self.run("cmake", "--build", "build", env=self.compiling(), stdout=subprocess.DEVNULL)
+        self.run("cmake", "--build", self.build, env=self.compiling(), stdout=subprocess.DEVNULL)
         self.programs = self.listed_programs()
 
     def compiling(self):
@@ -91,7 +91,7 @@ class Workshop:
 
         It knows them in the order of the layers, the models first.
         """
-        listed = json.loads(self.output("ctest", "--test-dir", "build", "--show-only=json-v1"))
+        listed = json.loads(self.output("ctest", "--test-dir", self.build, "--show-only=json-v1"))
         programs = {}
         layers = []
         for test in listed["tests"]:
@@ -106,10 +106,8 @@ class Workshop:
             # Scripts that start the program itself are no test programs.
             if layer and name not in LEFT_OUT and name not in programs:
                 before = test["command"][: test["command"].index(binaries[0])]
-                command = [
-                    str(pathlib.Path(word).relative_to(self.folder))
-                    for word in [*before, binaries[0]]
-                ]
+                # The commands are run in the copy's folder.
+                command = [word.removeprefix(f"{self.folder}/") for word in [*before, binaries[0]]]
                 if layer not in layers:
                     layers.append(layer)
                 rank = (KINDS.index(labels[0]), layers.index(layer))
@@ -118,7 +116,7 @@ class Workshop:
 
     def layer_of(self, name):
         """The folder of a test program's sources; empty for another program."""
-        inputs = self.output("ninja", "-C", "build", "-t", "query", f"bin/{name}")
+        inputs = self.output("ninja", "-C", self.build, "-t", "query", f"bin/{name}")
         found = re.search(r"tests/(\w+)/CMakeFiles", inputs)
         return found[1] if found else ""
 
@@ -136,7 +134,7 @@ class Workshop:
             file = self.folder / path
             before = file.stat()
             file.touch()
-            plan = self.output("ninja", "-C", "build", "-n", "-v", "all")
+            plan = self.output("ninja", "-C", self.build, "-n", "-v", "all")
             os.utime(file, ns=(before.st_atime_ns, before.st_mtime_ns))
             built = set(re.findall(r"-o bin/(\w+)", plan))
             seeing[path] = [program for program in self.programs if program.name in built]
@@ -164,7 +162,7 @@ class Workshop:
         return Verdict(SURVIVED)
 
     def compile(self, target):
-        command = ["ninja", "-C", "build", "-j1", target]
+        command = ["ninja", "-C", self.build, "-j1", target]
         # In a session of its own, as the tests are: Ctrl+C must not pass for an error of the compiler.
         return subprocess.run(
             command,
