@@ -4,7 +4,6 @@
 #include "batch/Interruption.h"
 #include "batch/ListedCommand.h"
 #include "batch/ModelSet.h"
-#include "batch/Numbers.h"
 #include "batch/Production.h"
 
 #include <Inventor/SoDB.h>
@@ -14,17 +13,6 @@
 namespace {
 
 using Sets = std::vector<HyperboloidParameters>;
-
-/** The swept values of a set, for example "K13 = 0.5, K23 = 0.25"; empty without sweeps. */
-std::string sweptValues(const BatchOptions& options, const HyperboloidParameters& set) {
-    std::string text;
-    for (const Sweep& sweep : options.sweeps) {
-        text += text.empty() ? "" : ", ";
-        text += std::string(sweep.parameter->name) + " = " +
-                Numbers::text(sweep.parameter->valueIn(set));
-    }
-    return text;
-}
 
 /** One line on a terminal that is written over and over; nothing where there is no terminal. */
 class ProgressLine {
@@ -65,7 +53,7 @@ std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) 
                                std::to_string(sets.size()) + " sets are not made");
             break;
         }
-        const std::string values = sweptValues(options, sets[i]);
+        const std::string values = sweptValues(sets[i], options.sweeps);
         progress.show(i, values);
         const std::string place = values.empty() ? values : values + ": ";
         for (const std::string& failure : production.make(sets[i])) {

@@ -1,6 +1,7 @@
 #include "batch/Contradictions.h"
 
 #include "batch/FileName.h"
+#include "batch/FileTargets.h"
 #include "batch/OutputFormat.h"
 
 #include <algorithm>
@@ -32,6 +33,14 @@ void checkSweeps(const BatchOptions& options) {
                         [&](const std::string& word) { return gives(word, *sweep.parameter); });
         require(!given, name + " is both given and swept");
     }
+}
+
+void checkProduct(const std::vector<Sweep>& sweeps) {
+    double sets = 1;
+    for (const Sweep& sweep : sweeps) {
+        sets *= static_cast<double>(sweep.values.size());
+    }
+    require(sets <= mostSets, "The sweeps make more than " + std::to_string(mostSets) + " sets");
 }
 
 /** Every swept parameter must tell the files of different sets apart. */
@@ -79,7 +88,9 @@ void checkPaper(const Paper& paper) {
 void Contradictions::refuse(const BatchOptions& options) {
     checkTargets(options);
     checkSweeps(options);
+    checkProduct(options.sweeps);
     checkFileNames(options);
+    FileTargets::refuseShared(options);
     checkViewpoint(options.viewpoint);
     checkPaper(options.paper);
 }

@@ -147,6 +147,12 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
                   "K13 is both given and swept");
     expectRefused({"--grid", "9x9", "--sweep", "rows=5:6:2", "--text", "U={rows}"},
                   "rows is both given and swept");
+    expectRefused({"--sweep", "K13=0:1:1001", "--sweep", "K23=0:1:1000", "--text", "U={K13},{K23}"},
+                  "The sweeps make more than 1000000 sets");
+    expectRefused({"--sweep", "columns=11:12:2", "--sweep", "rows=11:12:2", "--list", "--text",
+                   "U={columns},{rows}", "--text", "X={rows},{columns}"},
+                  "11,11 is to be written twice: by {columns},{rows} for columns = 11, rows = 11 "
+                  "and by {rows},{columns} for columns = 11, rows = 11");
     expectRefused({"--direction", "0,0,0", "--text", "U=-"},
                   "A direction of the camera has the length 0");
     expectRefused({"--direction", "0,-2,0", "--text", "U=-"},
