@@ -1,50 +1,22 @@
 #include "batch/BatchRun.h"
 
-#include "batch/CommandLine.h"
+#include "batch/ExitCode.h"
 #include "batch/Interruption.h"
 #include "batch/ListedCommand.h"
 #include "batch/ModelSet.h"
 #include "batch/Production.h"
+#include "batch/ProgressLine.h"
 
 #include <Inventor/SoDB.h>
 #include <iostream>
-#include <unistd.h>
 
 namespace {
 
 using Sets = std::vector<HyperboloidParameters>;
 
-/** One line on a terminal that is written over and over; nothing where there is no terminal. */
-class ProgressLine {
-public:
-    explicit ProgressLine(std::size_t setCount)
-        : count(setCount)
-        , shown(count > 1 && isatty(STDERR_FILENO) != 0) {}
-    ~ProgressLine() { clear(); }
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-
-    void show(std::size_t done, const std::string& values) const {
-        if (shown) {
-            clear();
-            std::cerr << done + 1 << " of " << count << ": " << values << std::flush;
-        }
-    }
-
-private:
-    void clear() const {
-        if (shown) {
-            std::cerr << "\r\033[K" << std::flush;
-        }
-    }
-
-    std::size_t count;
-    bool shown;
-};
-
 std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) {
     Production production(options);
-    const ProgressLine progress(sets.size());
+    ProgressLine progress(sets.size());
     const Interruption interruption;
     std::vector<std::string> failures;
     for (std::size_t i = 0; i < sets.size(); ++i) {
@@ -60,6 +32,9 @@ std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) 
             failures.push_back(place + failure);
         }
     }
+    if (const std::string undrawn = production.undrawnPictures(); !undrawn.empty()) {
+        failures.push_back(undrawn);
+    }
     return failures;
 }
 
@@ -70,7 +45,7 @@ int makeAndReport(const BatchOptions& options, const Sets& sets) {
     for (const std::string& failure : failures) {
         std::cerr << failure << "\n";
     }
-    return failures.empty() ? 0 : BatchRun::incomplete;
+    return failures.empty() ? 0 : ExitCode::incomplete;
 }
 
 } // namespace
@@ -81,7 +56,7 @@ int BatchRun::run(const BatchOptions& options, const std::string& program) {
         const std::string refusal = ModelSet::refusal(sets.front(), options);
         if (!refusal.empty()) {
             std::cerr << "Refused: " << refusal << "\n";
-            return CommandLine::refused;
+            return ExitCode::refused;
         }
     }
     if (options.list) {

@@ -1,6 +1,7 @@
 #include "batch/CommandLine.h"
 
 #include "batch/Contradictions.h"
+#include "batch/ExitCode.h"
 #include "batch/Numbers.h"
 #include "batch/OptionTexts.h"
 #include "helix/Helix.h"
@@ -47,10 +48,10 @@ public:
             rememberWords();
             Contradictions::refuse(options);
         } catch (const CLI::ParseError& error) {
-            return {std::nullopt, app.exit(error) == 0 ? 0 : CommandLine::refused};
+            return {std::nullopt, app.exit(error) == 0 ? 0 : ExitCode::refused};
         } catch (const std::invalid_argument& error) {
             std::cerr << error.what() << "\n";
-            return {std::nullopt, CommandLine::refused};
+            return {std::nullopt, ExitCode::refused};
         }
         return {options, 0};
     }

@@ -12,9 +12,6 @@
  */
 namespace CommandLine {
 
-/** What ends a program that cannot do what it has been asked for: nothing has been made. */
-constexpr int refused = 2;
-
 /** The options, or none and what the program ends with. */
 struct Result {
     std::optional<BatchOptions> options;

@@ -18,9 +18,12 @@
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QFile>
+#include <new>
 #include <ostream>
 
 namespace {
+
+constexpr const char* noMemory = "there is no memory";
 
 std::unique_ptr<ByteTarget> targetOf(const Output& output, const std::string& fileName) {
     if (OutputFormat::isStandardOutput(output)) {
@@ -42,7 +45,7 @@ void writeText(Document document, ByteTarget& target, ModelSet& models) {
 std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& target) {
     const CStream stream = cStreamTo(target);
     if (stream == nullptr) {
-        return "there is no memory";
+        return noMemory;
     }
     SceneExport::write(scene, format, stream.get());
     return {};
@@ -53,7 +56,7 @@ std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& ta
 Production::Production(const BatchOptions& batchOptions)
     : options(batchOptions) {}
 
-std::vector<std::string> Production::make(const HyperboloidParameters& set) {
+std::vector<std::string> Production::make(const HyperboloidParameters& set) try {
     if (const std::string refusal = ModelSet::refusal(set, options); !refusal.empty()) {
         return {refusal};
     }
@@ -66,11 +69,33 @@ std::vector<std::string> Production::make(const HyperboloidParameters& set) {
         }
     }
     return failures;
+} catch (const std::bad_alloc&) {
+    return {std::string("Nothing is made: ") + noMemory};
+}
+
+std::string Production::undrawnPictures() const {
+    const std::string pictures = undrawn == 1 ? " picture (" : " pictures (";
+    return undrawn == 0 ? "" : "Not made: " + std::to_string(undrawn) + pictures + *opened + ")";
 }
 
 std::string Production::make(const Output& output, const HyperboloidParameters& set,
                              ModelSet& models) {
+    if (output.kind == Output::Kind::image && !openRenderer()) {
+        ++undrawn;
+        return {};
+    }
     const std::string fileName = FileName::of(output.file, set);
+    std::string failure;
+    try {
+        failure = makeFile(output, fileName, models);
+    } catch (const std::bad_alloc&) {
+        failure = noMemory;
+    }
+    return failure.empty() ? failure : "Not made: " + fileName + " (" + failure + ")";
+}
+
+std::string Production::makeFile(const Output& output, const std::string& fileName,
+                                 ModelSet& models) {
     const std::unique_ptr<ByteTarget> target = targetOf(output, fileName);
     std::string failure = target->errorString().toStdString();
     if (failure.empty()) {
@@ -79,7 +104,7 @@ std::string Production::make(const Output& output, const HyperboloidParameters& 
     if (failure.empty() && !target->commit()) {
         failure = target->errorString().toStdString();
     }
-    return failure.empty() ? failure : "Not made: " + fileName + " (" + failure + ")";
+    return failure;
 }
 
 std::string Production::write(const Output& output, ByteTarget& target, ModelSet& models) {
@@ -101,10 +126,6 @@ std::string Production::write(const Output& output, ByteTarget& target, ModelSet
 }
 
 std::string Production::writePicture(const Output& output, ByteTarget& target, SoNode& scene) {
-    const std::string& failure = openRenderer();
-    if (!failure.empty()) {
-        return failure;
-    }
     const NodePointer<SoDirectionalLight> headlight(Lights::createHeadlight());
     const NodePointer<SoCamera> camera = Camera::of(output.document, options, scene);
     const float lineWidth = static_cast<float>(options.paper.dotsPerInch) /
@@ -121,7 +142,7 @@ std::string Production::writePicture(const Output& output, ByteTarget& target, S
                                                       : "the picture cannot be written";
 }
 
-const std::string& Production::openRenderer() {
+bool Production::openRenderer() {
     if (!opened) {
         opened = contexts.open();
     }
@@ -133,5 +154,5 @@ const std::string& Production::openRenderer() {
             paper.dotsPerInch};
         renderer = std::make_unique<PictureRenderer>(size, PictureRenderer::Manner());
     }
-    return *opened;
+    return opened->empty();
 }
