@@ -6,6 +6,8 @@
 #include "batch/ModelSet.h"
 #include "batch/Production.h"
 #include "batch/ProgressLine.h"
+#include "batch/Targets.h"
+#include "export/StandardOutput.h"
 
 #include <Inventor/SoDB.h>
 #include <iostream>
@@ -48,6 +50,15 @@ int makeAndReport(const BatchOptions& options, const Sets& sets) {
     return failures.empty() ? 0 : ExitCode::incomplete;
 }
 
+int list(const BatchOptions& options, const Sets& sets, const std::string& program) {
+    StandardOutput output;
+    for (const HyperboloidParameters& set : sets) {
+        const std::string line = ListedCommand::of(options, set, program) + "\n";
+        output.write(line.data(), line.size());
+    }
+    return Targets::close(output, Targets::standardOutput);
+}
+
 } // namespace
 
 int BatchRun::run(const BatchOptions& options, const std::string& program) {
@@ -59,11 +70,5 @@ int BatchRun::run(const BatchOptions& options, const std::string& program) {
             return ExitCode::refused;
         }
     }
-    if (options.list) {
-        for (const HyperboloidParameters& set : sets) {
-            std::cout << ListedCommand::of(options, set, program) << "\n";
-        }
-        return 0;
-    }
-    return makeAndReport(options, sets);
+    return options.list ? list(options, sets, program) : makeAndReport(options, sets);
 }

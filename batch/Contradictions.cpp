@@ -66,6 +66,14 @@ void checkTargets(const BatchOptions& options) {
     }
 }
 
+/** A command must stand in a line of its own. */
+void checkLines(const BatchOptions& options) {
+    for (const Output& output : options.outputs) {
+        require(!options.list || output.file.find('\n') == std::string::npos,
+                "A name with a line break cannot be listed: " + output.file);
+    }
+}
+
 void checkViewpoint(const Viewpoint& viewpoint) {
     SbVec3f direction = viewpoint.direction;
     SbVec3f up = viewpoint.up;
@@ -77,10 +85,11 @@ void checkViewpoint(const Viewpoint& viewpoint) {
 }
 
 void checkPaper(const Paper& paper) {
-    constexpr long largest = std::numeric_limits<short>::max();
-    const long longer = std::max(paper.width, paper.height);
-    require(longer * paper.dotsPerInch <= largest,
+    constexpr int largest = std::numeric_limits<short>::max();
+    const auto [shorter, longer] = std::minmax(paper.width, paper.height);
+    require(paper.dots(longer) <= largest,
             "A picture is " + std::to_string(largest) + " dots wide and high at most");
+    require(paper.dots(shorter) >= 1, "A picture is a dot wide and high at least");
 }
 
 } // namespace
@@ -91,6 +100,7 @@ void Contradictions::refuse(const BatchOptions& options) {
     checkProduct(options.sweeps);
     checkFileNames(options);
     FileTargets::refuseShared(options);
+    checkLines(options);
     checkViewpoint(options.viewpoint);
     checkPaper(options.paper);
 }

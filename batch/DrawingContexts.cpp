@@ -90,15 +90,16 @@ bool areContextsThere() {
 class QuietToolkit {
 public:
     QuietToolkit()
-        : previous(qInstallMessageHandler(tellTheWorst)) {}
+        : previous(qInstallMessageHandler(tellLastWords)) {}
     ~QuietToolkit() { qInstallMessageHandler(previous); }
     QuietToolkit(const QuietToolkit&) = delete;
     QuietToolkit& operator=(const QuietToolkit&) = delete;
 
 private:
-    static void tellTheWorst(QtMsgType type, const QMessageLogContext& /*where*/,
-                             const QString& text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg) {
+    /** A message after which the toolkit ends the program must be heard. */
+    static void tellLastWords(QtMsgType type, const QMessageLogContext& /*where*/,
+                              const QString& text) {
+        if (type == QtFatalMsg) {
             std::cerr << text.toLocal8Bit().constData() << std::endl;
         }
     }

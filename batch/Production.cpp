@@ -5,40 +5,28 @@
 #include "batch/ModelSet.h"
 #include "batch/OutputFormat.h"
 #include "batch/ShownDocument.h"
+#include "batch/Targets.h"
 #include "export/DataExport.h"
 #include "export/PrintedScene.h"
 #include "export/SceneExport.h"
-#include "export/StandardOutput.h"
 #include "export/TargetStreams.h"
-#include "export/WholeFile.h"
 #include "viewer/DocumentScene.h"
 #include "viewer/Lights.h"
 
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <QFile>
 #include <new>
-#include <ostream>
 
 namespace {
 
 constexpr const char* noMemory = "there is no memory";
 
-std::unique_ptr<ByteTarget> targetOf(const Output& output, const std::string& fileName) {
-    if (OutputFormat::isStandardOutput(output)) {
-        return std::make_unique<StandardOutput>();
-    }
-    return std::make_unique<WholeFile>(QFile::decodeName(fileName.c_str()));
-}
-
 void writeText(Document document, ByteTarget& target, ModelSet& models) {
-    TargetBuffer buffer(target);
-    std::ostream stream(&buffer);
     if (document == Document::helix) {
-        DataExport::writeHelix(stream, models.helix());
+        DataExport::writeHelix(target, models.helix());
     } else {
-        DataExport::writeHyperboloid(stream, models.surface(document));
+        DataExport::writeHyperboloid(target, models.surface(document));
     }
 }
 
@@ -96,7 +84,8 @@ std::string Production::make(const Output& output, const HyperboloidParameters& 
 
 std::string Production::makeFile(const Output& output, const std::string& fileName,
                                  ModelSet& models) {
-    const std::unique_ptr<ByteTarget> target = targetOf(output, fileName);
+    const bool isStandardOutput = OutputFormat::isStandardOutput(output);
+    const auto target = Targets::open(isStandardOutput ? Targets::standardOutput : fileName);
     std::string failure = target->errorString().toStdString();
     if (failure.empty()) {
         failure = write(output, *target, models);
@@ -148,10 +137,9 @@ bool Production::openRenderer() {
     }
     if (opened->empty() && renderer == nullptr) {
         const Paper& paper = options.paper;
-        const PictureRenderer::Size size{
-            SbVec2s(static_cast<short>(paper.width * paper.dotsPerInch),
-                    static_cast<short>(paper.height * paper.dotsPerInch)),
-            paper.dotsPerInch};
+        const PictureRenderer::Size size{SbVec2s(static_cast<short>(paper.dots(paper.width)),
+                                                 static_cast<short>(paper.dots(paper.height))),
+                                         paper.dotsPerInch};
         renderer = std::make_unique<PictureRenderer>(size, PictureRenderer::Manner());
     }
     return opened->empty();

@@ -73,6 +73,15 @@ TEST_F(BatchPictureTest, EveryDocumentIsDrawnWithoutADisplay) {
     }
 }
 
+TEST_F(BatchPictureTest, SizeNeedNotBeWholeInches) {
+    EXPECT_EQ(picture("helix", {"--size", "2.51x1.5"}).size(), QSize(151, 90));
+    const QByteArray postScript =
+        BatchProgram::run({"--size", "2.51x1.5", "--dpi", "60", "--image", "helix=-"}).output;
+    EXPECT_TRUE(postScript.contains("\n%%BoundingBox: 0 0 182 108\n"))
+        << "181.2 points hold 151 dots";
+    EXPECT_TRUE(postScript.contains("\n/image_wd 151 def\n"));
+}
+
 TEST_F(BatchPictureTest, ResolutionStandsInThePicture) {
     constexpr double inchesPerMetre = 1 / 0.0254;
     EXPECT_EQ(picture("U").dotsPerMeterX(), qRound(60 * inchesPerMetre));
@@ -169,6 +178,25 @@ TEST_F(BatchPictureTest, DisplayThatCannotBeReachedIsToldByItsName) {
               "Not made: 1 picture (there is no OpenGL, neither without a display (EGL, platform "
               "surfaceless: opening the platform fails with EGL error 0x300c) nor on one (the "
               "display :9876 cannot be reached); install libegl1 and libgl1-mesa-dri)\n");
+}
+
+TEST_F(BatchPictureTest, DisplayWithoutOpenGlIsNotTaken) {
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-extension", "GLX"});
+    ASSERT_TRUE(server.waitForReadyRead());
+    const QString display = ":" + QString(server.readLine()).trimmed();
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    environment.insert("DISPLAY", display);
+    const BatchProgram ended =
+        BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
+    server.terminate();
+    server.waitForFinished();
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_TRUE(ended.errors.startsWith("Not made: 1 picture (there is no OpenGL"))
+        << ended.errors.constData();
+    EXPECT_TRUE(ended.errors.contains("the display " + display.toLocal8Bit() + " has no OpenGL"));
+    EXPECT_EQ(ended.errors.count('\n'), 1);
 }
 
 TEST_F(BatchPictureTest, PngAndPostScriptHaveTheSamePixels) {
