@@ -138,24 +138,48 @@ protected:
         }
     }
 
-    /** Lets the first view of a viewer turn about its middle and come nearer. */
-    static void resetAndMove(SoQtGeneralViewer& viewer, SbVec3f direction, SbVec3f up, float zoom) {
-        viewer.resetToHomePosition();
-        SoCamera& camera = *viewer.getCamera();
-        float distance = camera.focalDistance.getValue();
-        const SbVec3f middle = camera.position.getValue() + SbVec3f(0, 0, -distance);
-        if (camera.isOfType(SoPerspectiveCamera::getClassTypeId())) {
-            distance /= zoom;
-        } else {
-            auto& height = static_cast<SoOrthographicCamera&>(camera).height;
-            height = height.getValue() / zoom;
+    /** The same but for a few pixels on edges: the last bits of the cameras may differ. */
+    void expectAlmostSamePictures(const QStringList& options) {
+        constexpr int mostDiffering = 500;
+        for (int document = 0; document < 4; ++document) {
+            savedPicture(document);
+            madePicture(document, options);
+            const QImage saved = drawn(folder.filePath("viewer.eps"));
+            const QImage made = drawn(folder.filePath("batch.eps"));
+            ASSERT_EQ(made.size(), saved.size());
+            int differing = 0;
+            for (int y = 0; y < made.height(); ++y) {
+                for (int x = 0; x < made.width(); ++x) {
+                    differing += made.pixel(x, y) != saved.pixel(x, y) ? 1 : 0;
+                }
+            }
+            EXPECT_LT(differing, mostDiffering)
+                << names[document].toStdString() << " " << options.join(" ").toStdString();
         }
-        direction.normalize();
-        camera.focalDistance = distance;
-        camera.position = middle - direction * distance;
-        camera.pointAt(middle, up);
     }
 
+    /** Lets all cameras turn about the middle of what they see, and come nearer. */
+    void moveCameras() const {
+        constexpr float zoom = 1.7F;
+        SbVec3f direction(-1, 0.6F, -1);
+        direction.normalize();
+        for (int document = 0; document < 4; ++document) {
+            SoCamera& camera = *frameOf(document).getViewer()->getCamera();
+            float distance = camera.focalDistance.getValue();
+            const SbVec3f middle = camera.position.getValue() + SbVec3f(0, 0, -distance);
+            if (camera.isOfType(SoPerspectiveCamera::getClassTypeId())) {
+                distance /= zoom;
+            } else {
+                auto& height = static_cast<SoOrthographicCamera&>(camera).height;
+                height = height.getValue() / zoom;
+            }
+            camera.focalDistance = distance;
+            camera.position = middle - direction * distance;
+            camera.pointAt(middle, SbVec3f(0, 0, 1));
+        }
+    }
+
+    const QStringList moved{"--direction=-1,0.6,-1", "--up=0,0,1", "--zoom=1.7"};
     const QStringList names{"U", "X", "M", "helix"};
 };
 
@@ -205,18 +229,17 @@ TEST_F(SameAsViewer, PerspectiveViewsToTheLastPixel) {
     expectSamePictures({"--camera", "perspective"});
 }
 
-TEST_F(SameAsViewer, OtherViewsOfBothCamerasToTheLastPixel) {
-    const QStringList seen{"--direction=-1,0.6,-1", "--up=0,0,1", "--zoom=1.7"};
-    for (const char* camera : {"orthographic", "perspective"}) {
-        for (int document = 0; document < 4; ++document) {
-            SoQtGeneralViewer& viewer = *frameOf(document).getViewer();
-            viewer.setCameraType(camera == std::string("perspective")
-                                     ? SoPerspectiveCamera::getClassTypeId()
-                                     : SoOrthographicCamera::getClassTypeId());
-            resetAndMove(viewer, SbVec3f(-1, 0.6F, -1), SbVec3f(0, 0, 1), 1.7F);
-        }
-        expectSamePictures(seen + QStringList{"--camera", camera});
+TEST_F(SameAsViewer, OtherOrthographicViews) {
+    moveCameras();
+    expectAlmostSamePictures(moved);
+}
+
+TEST_F(SameAsViewer, OtherPerspectiveViews) {
+    for (int document = 0; document < 4; ++document) {
+        frameOf(document).getViewer()->setCameraType(SoPerspectiveCamera::getClassTypeId());
     }
+    moveCameras();
+    expectAlmostSamePictures(moved + QStringList("--camera=perspective"));
 }
 
 TEST_F(SameAsViewer, AppearanceSetAndHelixToTheLastPixel) {
