@@ -68,14 +68,14 @@ std::string Production::undrawnPictures() const {
 
 std::string Production::make(const Output& output, const HyperboloidParameters& set,
                              ModelSet& models) {
-    if (output.kind == Output::Kind::image && !openRenderer()) {
-        ++undrawn;
-        return {};
-    }
     const std::string fileName = FileName::of(output.file, set);
     std::string failure;
     try {
-        failure = makeFile(output, fileName, models);
+        if (output.kind == Output::Kind::image && !openRenderer()) {
+            ++undrawn;
+        } else {
+            failure = makeFile(output, fileName, models);
+        }
     } catch (const std::bad_alloc&) {
         failure = noMemory;
     }
@@ -124,9 +124,13 @@ std::string Production::writePicture(const Output& output, ByteTarget& target, S
     if (!renderer->render(*picture)) {
         return "the picture cannot be rendered";
     }
+    const CStream stream = cStreamTo(target);
+    if (stream == nullptr) {
+        return noMemory;
+    }
     const bool written = OutputFormat::of(output) == Format::png
                              ? renderer->writePng(target)
-                             : renderer->writePostScript(cStreamTo(target).get());
+                             : renderer->writePostScript(stream.get());
     return written || !target.errorString().isEmpty() ? std::string()
                                                       : "the picture cannot be written";
 }
