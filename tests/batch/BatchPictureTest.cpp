@@ -216,3 +216,16 @@ TEST_F(BatchPictureTest, PngAndPostScriptHaveTheSamePixels) {
         EXPECT_TRUE(QImage(drawn).convertToFormat(QImage::Format_RGB32) == png) << document;
     }
 }
+
+TEST_F(BatchPictureTest, PictureThatThereIsNoMemoryForIsToldAndTheRestIsMade) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes more memory than any limit leaves";
+#endif
+    // The pixels alone take 2.7 gigabytes.
+    const BatchProgram ended = BatchProgram::runInMemory(
+        1500000, {"--size", "100x100", "--dpi", "300", "--image", "X=x.png", "--text", "U=u.txt"},
+        folder.path());
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors.toStdString(), "Not made: x.png (there is no memory)\n");
+    EXPECT_TRUE(QFile::exists(folder.filePath("u.txt")));
+}

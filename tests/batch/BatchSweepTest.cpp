@@ -159,25 +159,20 @@ TEST_F(BatchSweepTest, SetThatThereIsNoMemoryForIsToldAndTheRestIsMade) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer takes more memory than any limit leaves";
 #endif
-    const QString limited = "ulimit -v %1; exec \"$0\" \"$@\"";
     const auto run = [&](int kilobytes, const QStringList& sizes) {
-        QProcess process;
-        process.setProcessEnvironment(BatchProgram::bareEnvironment());
-        process.setWorkingDirectory(folder.path());
-        process.start("sh", QStringList{"-c", limited.arg(kilobytes), TORVANE_BATCH} + sizes +
-                                QStringList{"--text", "U=u{columns}", "--text", "X=x{columns}"});
-        EXPECT_TRUE(process.waitForFinished());
-        return std::make_pair(process.exitCode(), process.readAllStandardError());
+        return BatchProgram::runInMemory(
+            kilobytes, sizes + QStringList{"--text", "U=u{columns}", "--text", "X=x{columns}"},
+            folder.path());
     };
     // As much as a small grid needs.
     constexpr int step = 2048;
     constexpr int plenty = 1 << 20;
     int limit = step;
-    while (limit < plenty && run(limit, {"--columns", "5"}).first != 0) {
+    while (limit < plenty && run(limit, {"--columns", "5"}).exitCode != 0) {
         limit += step;
     }
-    const auto [exitCode, errors] = run(limit, {"--rows", "500", "--sweep", "columns=500:5:2"});
-    EXPECT_EQ(exitCode, 1);
-    EXPECT_EQ(errors.toStdString(), "columns = 500: Nothing is made: there is no memory\n");
+    const BatchProgram ended = run(limit, {"--rows", "500", "--sweep", "columns=500:5:2"});
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors.toStdString(), "columns = 500: Nothing is made: there is no memory\n");
     EXPECT_EQ(files(), (QStringList{"u5", "x5"}));
 }
