@@ -15,7 +15,7 @@ Interruption::Interruption()
     noted = 0;
     struct sigaction noting {};
     noting.sa_handler = note;
-    // The second one finds what was there before; what the program is just writing goes on.
+    // The second signal ends the program; what is being written when the first comes goes on.
     noting.sa_flags = SA_RESETHAND | SA_RESTART;
     for (Handler& handler : handlers) {
         sigaction(handler.signal, nullptr, &handler.previous);
