@@ -20,7 +20,8 @@ struct Result {
 
 /**
  * Reads the arguments of main, and the file of options that they may name. What is wrong with them
- * is told on standard error, help on standard output.
+ * is told on standard error, help on standard output; a file of options is written when they ask
+ * for one.
  */
 Result read(int argc, const char* const* argv);
 
