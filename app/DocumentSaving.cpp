@@ -39,9 +39,9 @@ QString notSavedAsClosed(const QString& fileName) {
 
 void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
     if (isHyperboloid) {
-        DataExport::writeHyperboloid(file, *qobject_cast<const HyperboloidFrame*>(&frame));
+        DataExport::saveHyperboloid(file, *qobject_cast<const HyperboloidFrame*>(&frame));
     } else {
-        DataExport::writeHelix(file, qobject_cast<const HelixFrame*>(&frame)->getHelix());
+        DataExport::saveHelix(file, qobject_cast<const HelixFrame*>(&frame)->getHelix());
     }
 }
 

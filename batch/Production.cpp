@@ -24,9 +24,9 @@ constexpr const char* noMemory = "there is no memory";
 
 void writeText(Document document, ByteTarget& target, ModelSet& models) {
     if (document == Document::helix) {
-        DataExport::writeHelix(target, models.helix());
+        DataExport::saveHelix(target, models.helix());
     } else {
-        DataExport::writeHyperboloid(target, models.surface(document));
+        DataExport::saveHyperboloid(target, models.surface(document));
     }
 }
 

@@ -161,13 +161,13 @@ void DataExport::writeHelix(std::ostream& out, const Helix& helix) {
     }
 }
 
-void DataExport::writeHyperboloid(ByteTarget& target, const Hyperboloid& hyperboloid) {
+void DataExport::saveHyperboloid(ByteTarget& target, const Hyperboloid& hyperboloid) {
     TargetBuffer buffer(target);
     std::ostream stream(&buffer);
     writeHyperboloid(stream, hyperboloid);
 }
 
-void DataExport::writeHelix(ByteTarget& target, const Helix& helix) {
+void DataExport::saveHelix(ByteTarget& target, const Helix& helix) {
     TargetBuffer buffer(target);
     std::ostream stream(&buffer);
     writeHelix(stream, helix);

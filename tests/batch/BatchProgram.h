@@ -35,7 +35,7 @@ struct BatchProgram {
     /** Runs it where it gets no more than so much memory. */
     static BatchProgram runInMemory(int kilobytes, const QStringList& arguments,
                                     const QString& folder) {
-        const QString limited = QString("ulimit -v %1; exec \"$0\" \"$@\"").arg(kilobytes);
+        const QString limited = QString(R"(ulimit -v %1; exec "$0" "$@")").arg(kilobytes);
         return runProgram("sh", QStringList{"-c", limited, TORVANE_BATCH} + arguments, folder,
                           bareEnvironment());
     }

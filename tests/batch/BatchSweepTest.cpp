@@ -148,7 +148,7 @@ TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {
 
 TEST_F(BatchSweepTest, SignalThatItWasStartedToIgnoreStaysIgnored) {
     QProcess process;
-    startSweep(process, "sh", 200, {"-c", "trap '' INT; exec \"$0\" \"$@\"", TORVANE_BATCH});
+    startSweep(process, "sh", 200, {"-c", R"(trap '' INT; exec "$0" "$@")", TORVANE_BATCH});
     kill(static_cast<pid_t>(process.processId()), SIGINT);
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();

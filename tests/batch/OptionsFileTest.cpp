@@ -19,6 +19,7 @@ protected:
     CommandLine::Result read(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), "torvane-batch");
         std::vector<const char*> words;
+        words.reserve(arguments.size());
         for (const std::string& argument : arguments) {
             words.push_back(argument.c_str());
         }
