@@ -13,7 +13,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <iostream>
-#include <ostream>
 
 namespace {
 
@@ -39,12 +38,10 @@ QString notSavedAsClosed(const QString& fileName) {
 }
 
 void writeNumbers(WholeFile& file, const SoQtGeneralViewerFrame& frame, bool isHyperboloid) {
-    TargetBuffer buffer(file);
-    std::ostream stream(&buffer);
     if (isHyperboloid) {
-        DataExport::writeHyperboloid(stream, *qobject_cast<const HyperboloidFrame*>(&frame));
+        DataExport::saveHyperboloid(file, *qobject_cast<const HyperboloidFrame*>(&frame));
     } else {
-        DataExport::writeHelix(stream, qobject_cast<const HelixFrame*>(&frame)->getHelix());
+        DataExport::saveHelix(file, qobject_cast<const HelixFrame*>(&frame)->getHelix());
     }
 }
 

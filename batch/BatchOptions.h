@@ -8,6 +8,7 @@
 
 #include <Inventor/SbVec3f.h>
 #include <array>
+#include <cmath>
 #include <optional>
 #include <string>
 #include <variant>
@@ -55,11 +56,14 @@ struct Viewpoint {
 /** How large pictures are. */
 struct Paper {
     /** In inches. */
-    int width = 6;
-    int height = 5;
+    double width = 6;
+    double height = 5;
     int dotsPerInch = 300;
     /** Lines are as wide in inches as one pixel of such a screen. */
     double screenDotsPerInch = 96;
+
+    /** How many whole dots a length in inches comes closest to. */
+    double dots(double inches) const { return std::round(inches * dotsPerInch); }
 };
 
 /** All that a call of the program asks for. */

@@ -1,62 +1,24 @@
 #include "batch/BatchRun.h"
 
-#include "batch/CommandLine.h"
+#include "batch/ExitCode.h"
 #include "batch/Interruption.h"
 #include "batch/ListedCommand.h"
 #include "batch/ModelSet.h"
-#include "batch/Numbers.h"
 #include "batch/Production.h"
+#include "batch/ProgressLine.h"
+#include "batch/Targets.h"
+#include "export/StandardOutput.h"
 
 #include <Inventor/SoDB.h>
 #include <iostream>
-#include <unistd.h>
 
 namespace {
 
 using Sets = std::vector<HyperboloidParameters>;
 
-/** The swept values of a set, for example "K13 = 0.5, K23 = 0.25"; empty without sweeps. */
-std::string sweptValues(const BatchOptions& options, const HyperboloidParameters& set) {
-    std::string text;
-    for (const Sweep& sweep : options.sweeps) {
-        text += text.empty() ? "" : ", ";
-        text += std::string(sweep.parameter->name) + " = " +
-                Numbers::text(sweep.parameter->valueIn(set));
-    }
-    return text;
-}
-
-/** One line on a terminal that is written over and over; nothing where there is no terminal. */
-class ProgressLine {
-public:
-    explicit ProgressLine(std::size_t setCount)
-        : count(setCount)
-        , shown(count > 1 && isatty(STDERR_FILENO) != 0) {}
-    ~ProgressLine() { clear(); }
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-
-    void show(std::size_t done, const std::string& values) const {
-        if (shown) {
-            clear();
-            std::cerr << done + 1 << " of " << count << ": " << values << std::flush;
-        }
-    }
-
-private:
-    void clear() const {
-        if (shown) {
-            std::cerr << "\r\033[K" << std::flush;
-        }
-    }
-
-    std::size_t count;
-    bool shown;
-};
-
 std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) {
     Production production(options);
-    const ProgressLine progress(sets.size());
+    ProgressLine progress(sets.size());
     const Interruption interruption;
     std::vector<std::string> failures;
     for (std::size_t i = 0; i < sets.size(); ++i) {
@@ -65,12 +27,15 @@ std::vector<std::string> makeAll(const BatchOptions& options, const Sets& sets) 
                                std::to_string(sets.size()) + " sets are not made");
             break;
         }
-        const std::string values = sweptValues(options, sets[i]);
+        const std::string values = sweptValues(sets[i], options.sweeps);
         progress.show(i, values);
         const std::string place = values.empty() ? values : values + ": ";
         for (const std::string& failure : production.make(sets[i])) {
             failures.push_back(place + failure);
         }
+    }
+    if (const std::string undrawn = production.undrawnPictures(); !undrawn.empty()) {
+        failures.push_back(undrawn);
     }
     return failures;
 }
@@ -82,7 +47,16 @@ int makeAndReport(const BatchOptions& options, const Sets& sets) {
     for (const std::string& failure : failures) {
         std::cerr << failure << "\n";
     }
-    return failures.empty() ? 0 : BatchRun::incomplete;
+    return failures.empty() ? 0 : ExitCode::incomplete;
+}
+
+int list(const BatchOptions& options, const Sets& sets, const std::string& program) {
+    StandardOutput output;
+    for (const HyperboloidParameters& set : sets) {
+        const std::string line = ListedCommand::of(options, set, program) + "\n";
+        output.write(line.data(), line.size());
+    }
+    return Targets::close(output, Targets::standardOutput);
 }
 
 } // namespace
@@ -93,14 +67,8 @@ int BatchRun::run(const BatchOptions& options, const std::string& program) {
         const std::string refusal = ModelSet::refusal(sets.front(), options);
         if (!refusal.empty()) {
             std::cerr << "Refused: " << refusal << "\n";
-            return CommandLine::refused;
+            return ExitCode::refused;
         }
     }
-    if (options.list) {
-        for (const HyperboloidParameters& set : sets) {
-            std::cout << ListedCommand::of(options, set, program) << "\n";
-        }
-        return 0;
-    }
-    return makeAndReport(options, sets);
+    return options.list ? list(options, sets, program) : makeAndReport(options, sets);
 }

@@ -12,9 +12,6 @@
  */
 namespace CommandLine {
 
-/** What ends a program that cannot do what it has been asked for: nothing has been made. */
-constexpr int refused = 2;
-
 /** The options, or none and what the program ends with. */
 struct Result {
     std::optional<BatchOptions> options;
@@ -23,7 +20,8 @@ struct Result {
 
 /**
  * Reads the arguments of main, and the file of options that they may name. What is wrong with them
- * is told on standard error, help on standard output.
+ * is told on standard error, help on standard output; a file of options is written when they ask
+ * for one.
  */
 Result read(int argc, const char* const* argv);
 

@@ -1,6 +1,7 @@
 #include "batch/Contradictions.h"
 
 #include "batch/FileName.h"
+#include "batch/FileTargets.h"
 #include "batch/OutputFormat.h"
 
 #include <algorithm>
@@ -34,6 +35,14 @@ void checkSweeps(const BatchOptions& options) {
     }
 }
 
+void checkProduct(const std::vector<Sweep>& sweeps) {
+    double sets = 1;
+    for (const Sweep& sweep : sweeps) {
+        sets *= static_cast<double>(sweep.values.size());
+    }
+    require(sets <= mostSets, "The sweeps make more than " + std::to_string(mostSets) + " sets");
+}
+
 /** Every swept parameter must tell the files of different sets apart. */
 void checkFileNames(const BatchOptions& options) {
     for (const Output& output : options.outputs) {
@@ -57,6 +66,14 @@ void checkTargets(const BatchOptions& options) {
     }
 }
 
+/** A command must stand in a line of its own. */
+void checkLines(const BatchOptions& options) {
+    for (const Output& output : options.outputs) {
+        require(!options.list || output.file.find('\n') == std::string::npos,
+                "A name with a line break cannot be listed: " + output.file);
+    }
+}
+
 void checkViewpoint(const Viewpoint& viewpoint) {
     SbVec3f direction = viewpoint.direction;
     SbVec3f up = viewpoint.up;
@@ -68,10 +85,11 @@ void checkViewpoint(const Viewpoint& viewpoint) {
 }
 
 void checkPaper(const Paper& paper) {
-    constexpr long largest = std::numeric_limits<short>::max();
-    const long longer = std::max(paper.width, paper.height);
-    require(longer * paper.dotsPerInch <= largest,
+    constexpr int largest = std::numeric_limits<short>::max();
+    const auto [shorter, longer] = std::minmax(paper.width, paper.height);
+    require(paper.dots(longer) <= largest,
             "A picture is " + std::to_string(largest) + " dots wide and high at most");
+    require(paper.dots(shorter) >= 1, "A picture is a dot wide and high at least");
 }
 
 } // namespace
@@ -79,7 +97,10 @@ void checkPaper(const Paper& paper) {
 void Contradictions::refuse(const BatchOptions& options) {
     checkTargets(options);
     checkSweeps(options);
+    checkProduct(options.sweeps);
     checkFileNames(options);
+    FileTargets::refuseShared(options);
+    checkLines(options);
     checkViewpoint(options.viewpoint);
     checkPaper(options.paper);
 }

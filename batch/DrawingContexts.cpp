@@ -4,6 +4,7 @@
 #include "viewer/SurfacelessContexts.h"
 #include "viewer/WindowSystem.h"
 
+#include <Inventor/C/glue/gl.h>
 #include <Inventor/errors/SoDebugError.h>
 #include <QGuiApplication>
 #include <X11/Xlib.h>
@@ -22,13 +23,13 @@ SoErrorCB* nextHandler = nullptr;
 void* nextHandlerData = nullptr;
 
 /**
- * The scene library asks GLX how large a picture may be and how fine the screen is, and complains
- * where there is none, although neither is used.
+ * The scene library asks GLX whether a context is direct and how fine the screen is, and complains
+ * where there is no X server, although neither is used.
  */
 void passOnAllButGlx(const SoError* error, void* /*data*/) {
     const std::string_view text = error->getDebugString().getString();
-    const bool isOfGlx = text.find("glxglue") != std::string_view::npos ||
-                         text.find("GLX") != std::string_view::npos;
+    const bool isOfGlx = text.find("glxglue_isdirect") != std::string_view::npos ||
+                         text.find("SoOffscreenGLXData") != std::string_view::npos;
     if (!isOfGlx) {
         nextHandler(error, nextHandlerData);
     }
@@ -75,6 +76,37 @@ bool isDisplayThere() {
     return true;
 }
 
+/** Whether contexts can be had is known only when one is tried. */
+bool areContextsThere() {
+    void* const context = cc_glglue_context_create_offscreen(1, 1);
+    if (context == nullptr) {
+        return false;
+    }
+    cc_glglue_context_destruct(context);
+    return true;
+}
+
+/** As long as it lives, the toolkit's warnings are not told: what they come to is told instead. */
+class QuietToolkit {
+public:
+    QuietToolkit()
+        : previous(qInstallMessageHandler(tellLastWords)) {}
+    ~QuietToolkit() { qInstallMessageHandler(previous); }
+    QuietToolkit(const QuietToolkit&) = delete;
+    QuietToolkit& operator=(const QuietToolkit&) = delete;
+
+private:
+    /** A message after which the toolkit ends the program must be heard. */
+    static void tellLastWords(QtMsgType type, const QMessageLogContext& /*where*/,
+                              const QString& text) {
+        if (type == QtFatalMsg) {
+            std::cerr << text.toLocal8Bit().constData() << std::endl;
+        }
+    }
+
+    QtMessageHandler previous;
+};
+
 } // namespace
 
 DrawingContexts::DrawingContexts() = default;
@@ -82,10 +114,10 @@ DrawingContexts::DrawingContexts() = default;
 DrawingContexts::~DrawingContexts() = default;
 
 std::string DrawingContexts::open() {
-    silenceGlx();
     doWithoutCacheWhereThereIsNone();
     const std::string reason = SurfacelessContexts::install();
     if (reason.empty()) {
+        silenceGlx();
         return {};
     }
     const std::string displayReason = openDisplay();
@@ -99,9 +131,15 @@ std::string DrawingContexts::open() {
 }
 
 std::string DrawingContexts::openDisplay() {
-    if (!isDisplayThere()) {
+    const char* const named = std::getenv("DISPLAY");
+    if (named == nullptr || *named == '\0') {
         return "DISPLAY names none";
     }
+    const std::string display = std::string("the display ") + named;
+    if (!isDisplayThere()) {
+        return display + " cannot be reached";
+    }
+    const QuietToolkit quiet;
     WindowSystem::prepareEnvironment();
     static int argumentCount = 1;
     static char name[] = "torvane-batch";
@@ -111,5 +149,5 @@ std::string DrawingContexts::openDisplay() {
     // The application object takes over the user's locale; files keep their decimal point.
     std::setlocale(LC_NUMERIC, "C");
     OffscreenContexts::install();
-    return {};
+    return areContextsThere() ? std::string() : display + " has no OpenGL";
 }

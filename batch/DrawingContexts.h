@@ -8,6 +8,9 @@ class QGuiApplication;
 /**
  * Where pictures are drawn: by EGL without any display, or else on the display that there is.
  *
+ * EGL comes first even where DISPLAY names a display: the same call makes the same picture with and
+ * without one, and no X server, which may be at the far end of a network, is loaded with it.
+ *
  * It must live as long as pictures are drawn.
  */
 class DrawingContexts {

@@ -1,26 +1,34 @@
 #include "batch/Interruption.h"
 
-#include <csignal>
-
 namespace {
 
 volatile std::sig_atomic_t noted = 0;
 
-void note(int signal) {
+void note(int /*signal*/) {
     noted = 1;
-    std::signal(signal, SIG_DFL);
 }
 
 } // namespace
 
-Interruption::Interruption() {
-    std::signal(SIGINT, note);
-    std::signal(SIGTERM, note);
+Interruption::Interruption()
+    : handlers{{{SIGINT, {}}, {SIGTERM, {}}}} {
+    noted = 0;
+    struct sigaction noting {};
+    noting.sa_handler = note;
+    // The second signal ends the program; what is being written when the first comes goes on.
+    noting.sa_flags = SA_RESETHAND | SA_RESTART;
+    for (Handler& handler : handlers) {
+        sigaction(handler.signal, nullptr, &handler.previous);
+        if (handler.previous.sa_handler != SIG_IGN) {
+            sigaction(handler.signal, &noting, nullptr);
+        }
+    }
 }
 
 Interruption::~Interruption() {
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
+    for (const Handler& handler : handlers) {
+        sigaction(handler.signal, &handler.previous, nullptr);
+    }
 }
 
 bool Interruption::isAskedFor() const {

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <array>
+#include <csignal>
+
 /**
  * Lets the user end the program between two sets, so that no file is left half made: as long as it
- * lives, the first SIGINT or SIGTERM is only noted. The second ends the program at once.
+ * lives, the first SIGINT or SIGTERM is only noted. The second ends the program at once. A signal
+ * that the program was started to ignore, as nohup does, stays ignored.
  */
 class Interruption {
 public:
@@ -13,4 +17,11 @@ public:
 
     /** Whether a signal has come. */
     bool isAskedFor() const;
+
+private:
+    struct Handler {
+        int signal;
+        struct sigaction previous;
+    };
+    std::array<Handler, 2> handlers;
 };

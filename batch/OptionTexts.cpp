@@ -19,6 +19,12 @@ int wholeNumber(std::string_view text) {
     return value ? *value : (refuse(std::string(text) + " is no whole number"), 0);
 }
 
+int sizeOfGrid(std::string_view text, HyperboloidParameter::Member member) {
+    const HyperboloidParameter& parameter = HyperboloidParameter::of(member);
+    return static_cast<int>(
+        OptionTexts::number(std::string(text), parameter.minimum, parameter.maximum, true));
+}
+
 Document document(std::string_view name) {
     for (const Document candidate : {Document::U, Document::X, Document::M, Document::helix}) {
         if (ShownDocument::nameOf(candidate) == name) {
@@ -69,16 +75,27 @@ FloatTriple OptionTexts::triple(const std::string& text) {
     return {values[0], values[1], values[2]};
 }
 
-std::array<int, 2> OptionTexts::product(const std::string& text) {
+std::array<int, 2> OptionTexts::grid(const std::string& text) {
     const auto parts = Numbers::split(text, 'x');
     if (parts.size() != 2) {
         refuse(text + " is not two whole numbers with an x between them");
     }
-    const std::array<int, 2> factors{wholeNumber(parts[0]), wholeNumber(parts[1])};
-    if (factors[0] < 1 || factors[1] < 1) {
-        refuse(text + " is less than 1x1");
+    return {sizeOfGrid(parts[0], &HyperboloidParameters::horizontalPrecision),
+            sizeOfGrid(parts[1], &HyperboloidParameters::verticalPrecision)};
+}
+
+std::array<double, 2> OptionTexts::size(const std::string& text) {
+    const auto parts = Numbers::split(text, 'x');
+    std::array<double, 2> sides{};
+    bool valid = parts.size() == sides.size();
+    for (std::size_t i = 0; valid && i < sides.size(); ++i) {
+        sides[i] = Numbers::read(parts[i]).value_or(0);
+        valid = sides[i] > 0;
     }
-    return factors;
+    if (!valid) {
+        refuse(text + " is not two numbers above 0 with an x between them");
+    }
+    return sides;
 }
 
 DocumentScene::Look OptionTexts::look(const std::string& text) {

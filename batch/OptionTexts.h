@@ -19,8 +19,11 @@ HelixPoint vertex(const std::string& text);
 /** Three numbers separated by commas. */
 FloatTriple triple(const std::string& text);
 
-/** Two whole numbers of 1 or more, separated by "x". */
-std::array<int, 2> product(const std::string& text);
+/** Columns and rows in their ranges, separated by "x". */
+std::array<int, 2> grid(const std::string& text);
+
+/** Two numbers above 0, separated by "x". */
+std::array<double, 2> size(const std::string& text);
 
 /** "lit", "plain" or "lines". */
 DocumentScene::Look look(const std::string& text);

@@ -5,44 +5,35 @@
 #include "batch/ModelSet.h"
 #include "batch/OutputFormat.h"
 #include "batch/ShownDocument.h"
+#include "batch/Targets.h"
 #include "export/DataExport.h"
 #include "export/PrintedScene.h"
 #include "export/SceneExport.h"
-#include "export/StandardOutput.h"
 #include "export/TargetStreams.h"
-#include "export/WholeFile.h"
 #include "viewer/DocumentScene.h"
 #include "viewer/Lights.h"
 
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoSeparator.h>
-#include <QFile>
-#include <ostream>
+#include <new>
 
 namespace {
 
-std::unique_ptr<ByteTarget> targetOf(const Output& output, const std::string& fileName) {
-    if (OutputFormat::isStandardOutput(output)) {
-        return std::make_unique<StandardOutput>();
-    }
-    return std::make_unique<WholeFile>(QFile::decodeName(fileName.c_str()));
-}
+constexpr const char* noMemory = "there is no memory";
 
 void writeText(Document document, ByteTarget& target, ModelSet& models) {
-    TargetBuffer buffer(target);
-    std::ostream stream(&buffer);
     if (document == Document::helix) {
-        DataExport::writeHelix(stream, models.helix());
+        DataExport::saveHelix(target, models.helix());
     } else {
-        DataExport::writeHyperboloid(stream, models.surface(document));
+        DataExport::saveHyperboloid(target, models.surface(document));
     }
 }
 
 std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& target) {
     const CStream stream = cStreamTo(target);
     if (stream == nullptr) {
-        return "there is no memory";
+        return noMemory;
     }
     SceneExport::write(scene, format, stream.get());
     return {};
@@ -53,7 +44,7 @@ std::string writeScene(SoNode& scene, SceneExport::Format format, ByteTarget& ta
 Production::Production(const BatchOptions& batchOptions)
     : options(batchOptions) {}
 
-std::vector<std::string> Production::make(const HyperboloidParameters& set) {
+std::vector<std::string> Production::make(const HyperboloidParameters& set) try {
     if (const std::string refusal = ModelSet::refusal(set, options); !refusal.empty()) {
         return {refusal};
     }
@@ -66,12 +57,35 @@ std::vector<std::string> Production::make(const HyperboloidParameters& set) {
         }
     }
     return failures;
+} catch (const std::bad_alloc&) {
+    return {std::string("Nothing is made: ") + noMemory};
+}
+
+std::string Production::undrawnPictures() const {
+    const std::string pictures = undrawn == 1 ? " picture (" : " pictures (";
+    return undrawn == 0 ? "" : "Not made: " + std::to_string(undrawn) + pictures + *opened + ")";
 }
 
 std::string Production::make(const Output& output, const HyperboloidParameters& set,
                              ModelSet& models) {
     const std::string fileName = FileName::of(output.file, set);
-    const std::unique_ptr<ByteTarget> target = targetOf(output, fileName);
+    std::string failure;
+    try {
+        if (output.kind == Output::Kind::image && !openRenderer()) {
+            ++undrawn;
+        } else {
+            failure = makeFile(output, fileName, models);
+        }
+    } catch (const std::bad_alloc&) {
+        failure = noMemory;
+    }
+    return failure.empty() ? failure : "Not made: " + fileName + " (" + failure + ")";
+}
+
+std::string Production::makeFile(const Output& output, const std::string& fileName,
+                                 ModelSet& models) {
+    const bool isStandardOutput = OutputFormat::isStandardOutput(output);
+    const auto target = Targets::open(isStandardOutput ? Targets::standardOutput : fileName);
     std::string failure = target->errorString().toStdString();
     if (failure.empty()) {
         failure = write(output, *target, models);
@@ -79,7 +93,7 @@ std::string Production::make(const Output& output, const HyperboloidParameters& 
     if (failure.empty() && !target->commit()) {
         failure = target->errorString().toStdString();
     }
-    return failure.empty() ? failure : "Not made: " + fileName + " (" + failure + ")";
+    return failure;
 }
 
 std::string Production::write(const Output& output, ByteTarget& target, ModelSet& models) {
@@ -101,10 +115,6 @@ std::string Production::write(const Output& output, ByteTarget& target, ModelSet
 }
 
 std::string Production::writePicture(const Output& output, ByteTarget& target, SoNode& scene) {
-    const std::string& failure = openRenderer();
-    if (!failure.empty()) {
-        return failure;
-    }
     const NodePointer<SoDirectionalLight> headlight(Lights::createHeadlight());
     const NodePointer<SoCamera> camera = Camera::of(output.document, options, scene);
     const float lineWidth = static_cast<float>(options.paper.dotsPerInch) /
@@ -114,24 +124,27 @@ std::string Production::writePicture(const Output& output, ByteTarget& target, S
     if (!renderer->render(*picture)) {
         return "the picture cannot be rendered";
     }
+    const CStream stream = cStreamTo(target);
+    if (stream == nullptr) {
+        return noMemory;
+    }
     const bool written = OutputFormat::of(output) == Format::png
                              ? renderer->writePng(target)
-                             : renderer->writePostScript(cStreamTo(target).get());
+                             : renderer->writePostScript(stream.get());
     return written || !target.errorString().isEmpty() ? std::string()
                                                       : "the picture cannot be written";
 }
 
-const std::string& Production::openRenderer() {
+bool Production::openRenderer() {
     if (!opened) {
         opened = contexts.open();
     }
     if (opened->empty() && renderer == nullptr) {
         const Paper& paper = options.paper;
-        const PictureRenderer::Size size{
-            SbVec2s(static_cast<short>(paper.width * paper.dotsPerInch),
-                    static_cast<short>(paper.height * paper.dotsPerInch)),
-            paper.dotsPerInch};
+        const PictureRenderer::Size size{SbVec2s(static_cast<short>(paper.dots(paper.width)),
+                                                 static_cast<short>(paper.dots(paper.height))),
+                                         paper.dotsPerInch};
         renderer = std::make_unique<PictureRenderer>(size, PictureRenderer::Manner());
     }
-    return *opened;
+    return opened->empty();
 }

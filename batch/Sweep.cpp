@@ -11,9 +11,6 @@
 
 namespace {
 
-/** More sets than anybody waits for. */
-constexpr int mostValues = 1000000;
-
 double valueOf(std::string_view text) {
     const std::optional<double> value = Numbers::read(text);
     if (!value) {
@@ -46,7 +43,7 @@ Sweep Sweep::read(std::string_view text) {
     }
     const HyperboloidParameter& parameter = HyperboloidParameter::named(sides.front());
     const std::optional<int> count = Numbers::readWhole(parts[2]);
-    if (!count || *count < 1 || *count > mostValues) {
+    if (!count || *count < 1 || *count > mostSets) {
         throw std::invalid_argument(std::string(parts[2]) + " is no number of values");
     }
     Sweep sweep{&parameter, spread(valueOf(parts[0]), valueOf(parts[1]), *count)};
@@ -55,7 +52,22 @@ Sweep Sweep::read(std::string_view text) {
             throw std::invalid_argument(Refusal::outOfRange(parameter, value));
         }
     }
+    const auto twice = std::adjacent_find(sweep.values.begin(), sweep.values.end());
+    if (twice != sweep.values.end()) {
+        throw std::invalid_argument(std::string(text) + " takes the value " +
+                                    Numbers::text(*twice) + " more than once");
+    }
     return sweep;
+}
+
+std::string sweptValues(const HyperboloidParameters& set, const std::vector<Sweep>& sweeps) {
+    std::string text;
+    for (const Sweep& sweep : sweeps) {
+        text += text.empty() ? "" : ", ";
+        text += std::string(sweep.parameter->name) + " = " +
+                Numbers::text(sweep.parameter->valueIn(set));
+    }
+    return text;
 }
 
 std::vector<HyperboloidParameters> setsOf(const HyperboloidParameters& base,

@@ -1,5 +1,6 @@
 #include "batch/BatchRun.h"
 #include "batch/CommandLine.h"
+#include "batch/ExitCode.h"
 
 #include <exception>
 #include <iostream>
@@ -11,6 +12,6 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
         // No memory, for example.
         std::cerr << "Given up: " << error.what() << "\n";
-        return BatchRun::incomplete;
+        return ExitCode::incomplete;
     }
 }

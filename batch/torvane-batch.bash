@@ -12,7 +12,7 @@ _torvane_batch() {
         words="U= X= M= helix="
         ;;
     # The shell takes a sign of equality for a word of its own.
-    = | --config)
+    = | --config | --write-config)
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return

@@ -1,5 +1,6 @@
 #include "export/DataExport.h"
 
+#include "export/TargetStreams.h"
 #include "helix/Helix.h"
 #include "hyperboloid/Hyperboloid.h"
 
@@ -158,4 +159,16 @@ void DataExport::writeHelix(std::ostream& out, const Helix& helix) {
     for (int i = 0; i < vertexCount; ++i) {
         text.point(helix.getLineVertex(i, 0), helix.getLineVertex(i, 1), helix.getLineVertex(i, 2));
     }
+}
+
+void DataExport::saveHyperboloid(ByteTarget& target, const Hyperboloid& hyperboloid) {
+    TargetBuffer buffer(target);
+    std::ostream stream(&buffer);
+    writeHyperboloid(stream, hyperboloid);
+}
+
+void DataExport::saveHelix(ByteTarget& target, const Helix& helix) {
+    TargetBuffer buffer(target);
+    std::ostream stream(&buffer);
+    writeHelix(stream, helix);
 }

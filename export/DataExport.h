@@ -2,6 +2,7 @@
 
 #include <iosfwd>
 
+class ByteTarget;
 class Helix;
 class Hyperboloid;
 
@@ -19,5 +20,9 @@ void writeHyperboloid(std::ostream& out, const Hyperboloid& hyperboloid);
 
 /** Radius, pitch, curvature, torsion, and the vertices of the centre line. */
 void writeHelix(std::ostream& out, const Helix& helix);
+
+// The same, to where an export goes.
+void saveHyperboloid(ByteTarget& target, const Hyperboloid& hyperboloid);
+void saveHelix(ByteTarget& target, const Helix& helix);
 
 } // namespace DataExport

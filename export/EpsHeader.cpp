@@ -14,7 +14,8 @@ struct Line {
 
 std::string boundingBox(const SbVec2s& pixels, int dotsPerInch) {
     const auto points = [&](int count) {
-        return std::to_string(count / dotsPerInch * pointsPerInch);
+        const int rest = count * pointsPerInch % dotsPerInch;
+        return std::to_string(count * pointsPerInch / dotsPerInch + (rest > 0 ? 1 : 0));
     };
     return "%%BoundingBox: 0 0 " + points(pixels[0]) + " " + points(pixels[1]);
 }

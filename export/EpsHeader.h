@@ -22,10 +22,11 @@ struct Corrected {
 
 /**
  * Puts a picture's lower left corner at the origin and gives it its resolution and its size: the
- * bounding box is 0 0 72 w/d 72 h/d points for w x h pixels at d dots per inch.
+ * bounding box is 0 0 72 w/d 72 h/d points for w x h pixels at d dots per inch, in whole points
+ * that hold all of the picture.
  *
  * @param picture what the library wrote; the result's rest is a part of it
- * @param pixels  the picture's size w x h, whole multiples of the resolution
+ * @param pixels  the picture's size w x h
  * @return nothing when the header is not the one that is known
  */
 std::optional<Corrected> correct(std::string_view picture, const SbVec2s& pixels, int dotsPerInch);

@@ -44,6 +44,11 @@ public:
     /** Coordinates m = K (u - uHat). */
     static constexpr int MSPACE = HyperboloidSpaces::M;
 
+    // The appearance of a new surface, 0 to 1.
+    static constexpr double startSaturation = 0.8;
+    static constexpr double startLightness = 0.5;
+    static constexpr double startTransparency = 0.0;
+
     /**
      * A surface with this K and uHat and the start values for all else, generated and, in U space,
      * coloured.
@@ -198,11 +203,11 @@ protected:
     unsigned int numCol = 0;
     unsigned int numRow = 0;
     /** 0 to 1 */
-    double saturation = 0.8;
+    double saturation = startSaturation;
     /** 0 to 1 */
-    double lightness = 0.5;
+    double lightness = startLightness;
     /** 0 to 1; it reaches the surface through `material`, never through `colors`. */
-    double transparency = 0.0;
+    double transparency = startTransparency;
     double SpR = 0.0;
     double u3const_range = 0.0;
     double u3axis_range = 0.0;

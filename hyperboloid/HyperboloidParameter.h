@@ -21,6 +21,8 @@ struct HyperboloidParameter {
     int decimals;
     /** The difference that one press of an arrow key makes. */
     double step;
+    /** Whether it is a length, in units of the coordinates of the space that is shown. */
+    bool isLength;
 
     /** Whether a value lies in the range, and is whole where a whole number is due. */
     [[nodiscard]] bool admits(double value) const;

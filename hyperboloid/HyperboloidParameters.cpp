@@ -17,12 +17,19 @@ constexpr HyperboloidParameter real(std::string_view name, std::string_view mean
                                     double Set::*member, double minimum, double maximum) {
     constexpr int decimals = 2;
     constexpr double step = 0.01;
-    return {name, meaning, member, minimum, maximum, decimals, step};
+    return {name, meaning, member, minimum, maximum, decimals, step, false};
+}
+
+constexpr HyperboloidParameter length(std::string_view name, std::string_view meaning,
+                                      double Set::*member, double maximum) {
+    HyperboloidParameter parameter = real(name, meaning, member, 0, maximum);
+    parameter.isLength = true;
+    return parameter;
 }
 
 constexpr HyperboloidParameter whole(std::string_view name, std::string_view meaning,
                                      int Set::*member, double minimum, double maximum) {
-    return {name, meaning, member, minimum, maximum, 0, 1};
+    return {name, meaning, member, minimum, maximum, 0, 1, false};
 }
 
 constexpr std::array<HyperboloidParameter, Set::count> parameters{
@@ -38,14 +45,14 @@ constexpr std::array<HyperboloidParameter, Set::count> parameters{
           coarsestGrid, finestGrid),
     whole("rows", "rows of the grid, along the surface", &Set::verticalPrecision, coarsestGrid,
           finestGrid),
-    real("point-radius", "radius of the spheres that mark points", &Set::pointRadius, 0,
-         largestPointRadius),
-    real("u3const-range", "half the length of the lines of constant u3", &Set::u3constRange, 0,
-         largest),
-    real("u3axis-range", "half the length of the u3 axis", &Set::u3axisRange, 0, largest),
-    real("u3const-radius", "radius of the tubes of the lines of constant u3", &Set::u3constRadius,
-         0, largest),
-    real("u3axis-radius", "radius of the tube of the u3 axis", &Set::u3axisRadius, 0, largest),
+    length("point-radius", "radius of the spheres that mark points", &Set::pointRadius,
+           largestPointRadius),
+    length("u3const-range", "half the length of the lines of constant u3", &Set::u3constRange,
+           largest),
+    length("u3axis-range", "half the length of the u3 axis", &Set::u3axisRange, largest),
+    length("u3const-radius", "radius of the tubes of the lines of constant u3", &Set::u3constRadius,
+           largest),
+    length("u3axis-radius", "radius of the tube of the u3 axis", &Set::u3axisRadius, largest),
 };
 
 } // namespace

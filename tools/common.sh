@@ -11,7 +11,7 @@ virtual_display_packages=(
     xvfb xauth xdotool imagemagick libgl1-mesa-dri fonts-dejavu-core)
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
-    valgrind time python3-clang libclang-common-14-dev)
+    valgrind time make parallel python3-clang libclang-common-14-dev)
 check_packages=(clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
 mutation_packages=(ccache git)

@@ -73,6 +73,15 @@ TEST_F(BatchPictureTest, EveryDocumentIsDrawnWithoutADisplay) {
     }
 }
 
+TEST_F(BatchPictureTest, SizeNeedNotBeWholeInches) {
+    EXPECT_EQ(picture("helix", {"--size", "2.51x1.5"}).size(), QSize(151, 90));
+    const QByteArray postScript =
+        BatchProgram::run({"--size", "2.51x1.5", "--dpi", "60", "--image", "helix=-"}).output;
+    EXPECT_TRUE(postScript.contains("\n%%BoundingBox: 0 0 182 108\n"))
+        << "181.2 points hold 151 dots";
+    EXPECT_TRUE(postScript.contains("\n/image_wd 151 def\n"));
+}
+
 TEST_F(BatchPictureTest, ResolutionStandsInThePicture) {
     constexpr double inchesPerMetre = 1 / 0.0254;
     EXPECT_EQ(picture("U").dotsPerMeterX(), qRound(60 * inchesPerMetre));
@@ -137,13 +146,86 @@ TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade
         BatchProgram::run({"--image", "U=u.png", "--text", "U=u.txt", "--image", "X=x.png"},
                           folder.path(), environment);
     EXPECT_EQ(ended.exitCode, 1);
-    const QByteArray reason =
-        "there is no OpenGL, neither without a display (EGL, platform "
-        "surfaceless: opening the platform fails with EGL error 0x300c) nor on one (DISPLAY names "
-        "none); install libegl1 and libgl1-mesa-dri";
-    EXPECT_EQ(
-        ended.errors.toStdString(),
-        ("Not made: u.png (" + reason + ")\nNot made: x.png (" + reason + ")\n").toStdString());
+    EXPECT_EQ(ended.errors.toStdString(),
+              "Not made: 2 pictures (there is no OpenGL, neither without a display (EGL, platform "
+              "surfaceless: opening the platform fails with EGL error 0x300c) nor on one (DISPLAY "
+              "names none); install libegl1 and libgl1-mesa-dri)\n");
     EXPECT_TRUE(QFile::exists(folder.filePath("u.txt")));
     EXPECT_FALSE(QFile::exists(folder.filePath("u.png")));
+}
+
+TEST_F(BatchPictureTest, PicturesOfASweepThatThereIsNoOpenGlForAreCounted) {
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const BatchProgram ended =
+        BatchProgram::run({"--grid", "9x9", "--sweep", "K1=1:2:3", "--image", "U={K1}.png"},
+                          folder.path(), environment);
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_TRUE(ended.errors.startsWith("K1 = 2: K1 ≤ K2 does not hold: K1 = 2, K2 = 1.5\n"
+                                        "Not made: 2 pictures (there is no OpenGL"))
+        << ended.errors.constData();
+    EXPECT_EQ(ended.errors.count('\n'), 2);
+}
+
+TEST_F(BatchPictureTest, DisplayThatCannotBeReachedIsToldByItsName) {
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    environment.insert("DISPLAY", ":9876");
+    const BatchProgram ended =
+        BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors.toStdString(),
+              "Not made: 1 picture (there is no OpenGL, neither without a display (EGL, platform "
+              "surfaceless: opening the platform fails with EGL error 0x300c) nor on one (the "
+              "display :9876 cannot be reached); install libegl1 and libgl1-mesa-dri)\n");
+}
+
+TEST_F(BatchPictureTest, DisplayWithoutOpenGlIsNotTaken) {
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-extension", "GLX"});
+    ASSERT_TRUE(server.waitForReadyRead());
+    const QString display = ":" + QString(server.readLine()).trimmed();
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    environment.insert("DISPLAY", display);
+    const BatchProgram ended =
+        BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
+    server.terminate();
+    server.waitForFinished();
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_TRUE(ended.errors.startsWith("Not made: 1 picture (there is no OpenGL"))
+        << ended.errors.constData();
+    EXPECT_TRUE(ended.errors.contains("the display " + display.toLocal8Bit() + " has no OpenGL"));
+    EXPECT_EQ(ended.errors.count('\n'), 1);
+}
+
+TEST_F(BatchPictureTest, PngAndPostScriptHaveTheSamePixels) {
+    for (const char* document : {"U", "helix"}) {
+        const QImage png = picture(document, {"--look", "lines", "--size", "3x2"});
+        ASSERT_EQ(BatchProgram::run({"--look", "lines", "--size", "3x2", "--dpi", "60", "--image",
+                                     document + QString("=picture.eps")},
+                                    folder.path())
+                      .exitCode,
+                  0);
+        const QString drawn = folder.filePath("drawn.png");
+        ASSERT_EQ(QProcess::execute("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop",
+                                           "-sDEVICE=png16m", "-r60", "-sOutputFile=" + drawn,
+                                           folder.filePath("picture.eps")}),
+                  0);
+        EXPECT_GT(colorCount(png), 10U);
+        EXPECT_TRUE(QImage(drawn).convertToFormat(QImage::Format_RGB32) == png) << document;
+    }
+}
+
+TEST_F(BatchPictureTest, PictureThatThereIsNoMemoryForIsToldAndTheRestIsMade) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes more memory than any limit leaves";
+#endif
+    // The pixels alone take 2.7 gigabytes.
+    const BatchProgram ended = BatchProgram::runInMemory(
+        1500000, {"--size", "100x100", "--dpi", "300", "--image", "X=x.png", "--text", "U=u.txt"},
+        folder.path());
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors.toStdString(), "Not made: x.png (there is no memory)\n");
+    EXPECT_TRUE(QFile::exists(folder.filePath("u.txt")));
 }

@@ -29,11 +29,25 @@ struct BatchProgram {
     /** Runs it in a folder until it ends. */
     static BatchProgram run(const QStringList& arguments, const QString& folder = {},
                             const QProcessEnvironment& environment = bareEnvironment()) {
+        return runProgram(TORVANE_BATCH, arguments, folder, environment);
+    }
+
+    /** Runs it where it gets no more than so much memory. */
+    static BatchProgram runInMemory(int kilobytes, const QStringList& arguments,
+                                    const QString& folder) {
+        const QString limited = QString(R"(ulimit -v %1; exec "$0" "$@")").arg(kilobytes);
+        return runProgram("sh", QStringList{"-c", limited, TORVANE_BATCH} + arguments, folder,
+                          bareEnvironment());
+    }
+
+private:
+    static BatchProgram runProgram(const QString& program, const QStringList& arguments,
+                                   const QString& folder, const QProcessEnvironment& environment) {
         constexpr int patience = 300000;
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder);
-        process.start(TORVANE_BATCH, arguments);
+        process.start(program, arguments);
         process.waitForFinished(patience);
         const bool ended = process.exitStatus() == QProcess::NormalExit;
         return {ended ? process.exitCode() : -1, process.readAllStandardOutput(),

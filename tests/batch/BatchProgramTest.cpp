@@ -14,6 +14,17 @@ protected:
         return BatchProgram::run(arguments, folder.path());
     }
 
+    /** Runs it with standard output on a device that is always full. */
+    BatchProgram runOntoAFullDisk(const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(BatchProgram::bareEnvironment());
+        process.setWorkingDirectory(folder.path());
+        process.setStandardOutputFile("/dev/full");
+        process.start(TORVANE_BATCH, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        return {process.exitCode(), {}, process.readAllStandardError()};
+    }
+
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
 
     QTemporaryDir folder;
@@ -124,15 +135,20 @@ TEST_F(BatchProgramTest, NumbersHaveADecimalPointInEveryLocale) {
 }
 
 TEST_F(BatchProgramTest, FullStandardOutputIsToldAndAllElseIsMade) {
-    QProcess process;
-    process.setProcessEnvironment(BatchProgram::bareEnvironment());
-    process.setWorkingDirectory(folder.path());
-    process.setStandardOutputFile("/dev/full");
-    process.start(TORVANE_BATCH, {"--text", "U=-", "--text", "X=x.txt"});
-    ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 1);
-    EXPECT_EQ(process.readAllStandardError(), "Not made: - (No space left on device)\n");
+    const BatchProgram ended = runOntoAFullDisk({"--text", "U=-", "--text", "X=x.txt"});
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors, "Not made: - (No space left on device)\n");
     EXPECT_EQ(files(), QStringList("x.txt"));
+}
+
+TEST_F(BatchProgramTest, HelpAndListsThatNobodyGetsAreNoSuccess) {
+    for (const QStringList& arguments :
+         {QStringList{"--help"}, QStringList{"--list", "--text", "U=u.txt"},
+          QStringList{"--zoom", "2", "--write-config", "-"}}) {
+        const BatchProgram ended = runOntoAFullDisk(arguments);
+        EXPECT_EQ(ended.exitCode, 1) << arguments.front().toStdString();
+        EXPECT_EQ(ended.errors, "Standard output cannot be written (No space left on device)\n");
+    }
 }
 
 TEST_F(BatchProgramTest, WhatIsNowhereIsLeftOutOfVrml) {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace {
@@ -10,6 +11,33 @@ class BatchSweepTest : public testing::Test {
 protected:
     QStringList files(const QString& name = {}) const {
         return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
+    }
+
+    /** What a call shows on a terminal. */
+    QByteArray onATerminal(const QString& arguments) const {
+        QProcess terminal;
+        terminal.setProcessEnvironment(BatchProgram::bareEnvironment());
+        terminal.setWorkingDirectory(folder.path());
+        terminal.start("script", {"--quiet", "--return", "--command",
+                                  QString(TORVANE_BATCH) + " " + arguments, "/dev/null"});
+        EXPECT_TRUE(terminal.waitForFinished());
+        EXPECT_EQ(terminal.exitCode(), 0);
+        return terminal.readAllStandardOutput();
+    }
+
+    /** Starts the program on a sweep of texts, by way of another one perhaps, and waits for the
+     * first. */
+    void startSweep(QProcess& process, const QString& program, int count,
+                    const QStringList& before = {}) const {
+        process.setProcessEnvironment(BatchProgram::bareEnvironment());
+        process.setWorkingDirectory(folder.path());
+        process.start(program,
+                      before + QStringList{"--sweep", QString("K13=-0.5:0.5:%1").arg(count),
+                                           "--text", "U={K13}", "--text", "X=x{K13}"});
+        ASSERT_TRUE(process.waitForStarted());
+        while (files().isEmpty() && process.state() == QProcess::Running) {
+            process.waitForReadyRead(1);
+        }
     }
 
     QTemporaryDir folder;
@@ -84,40 +112,67 @@ TEST_F(BatchSweepTest, ListedCommandsSpreadByAShellMakeTheSameFiles) {
 }
 
 TEST_F(BatchSweepTest, TerminalShowsHowFarItIs) {
-    QProcess terminal;
-    terminal.setProcessEnvironment(BatchProgram::bareEnvironment());
-    terminal.setWorkingDirectory(folder.path());
-    const QString command =
-        QString(TORVANE_BATCH) + " --grid 9x9 --sweep K13=0.25:0.5:3 --text U={K13}";
-    terminal.start("script", {"--quiet", "--return", "--command", command, "/dev/null"});
-    ASSERT_TRUE(terminal.waitForFinished());
-    EXPECT_EQ(terminal.exitCode(), 0);
-    const QByteArray shown = terminal.readAllStandardOutput();
+    const QByteArray shown = onATerminal("--grid 9x9 --sweep K13=0.25:0.5:3 --text U={K13}");
     EXPECT_TRUE(shown.contains("1 of 3: K13 = 0.25\r")) << shown.constData();
     EXPECT_TRUE(shown.contains("2 of 3: K13 = 0.375\r"));
     EXPECT_TRUE(shown.endsWith("3 of 3: K13 = 0.5\r\033[K"));
 }
 
+TEST_F(BatchSweepTest, WordsOfTheModelTakeThePlaceOfTheProgressLine) {
+    const QByteArray shown = onATerminal("--grid 9x9 --sweep K13=-0.5:0.5:3 --text U={K13}");
+    EXPECT_TRUE(shown.contains("2 of 3: K13 = 0\r\033[KError : bd=0 or ac+bd=0\r\n"));
+    EXPECT_TRUE(shown.endsWith("Error :  bd=0\r\n3 of 3: K13 = 0.5\r\033[K"));
+}
+
 TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {
-    QProcess process;
-    process.setProcessEnvironment(BatchProgram::bareEnvironment());
-    process.setWorkingDirectory(folder.path());
-    process.start(TORVANE_BATCH,
-                  {"--sweep", "K13=-0.5:0.5:100000", "--text", "U={K13}", "--text", "X=x{K13}"});
-    ASSERT_TRUE(process.waitForStarted());
-    while (files().isEmpty() && process.state() == QProcess::Running) {
-        process.waitForReadyRead(1);
+    for (const int signal : {SIGTERM, SIGINT}) {
+        QProcess process;
+        startSweep(process, TORVANE_BATCH, 100000);
+        kill(static_cast<pid_t>(process.processId()), signal);
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), 1);
+        const QStringList made = files();
+        const int setCount = made.size() / 2;
+        EXPECT_EQ(made.size(), 2 * setCount);
+        EXPECT_EQ(process.readAllStandardError().toStdString(),
+                  QString("Interrupted: %1 of 100000 sets are not made\n")
+                      .arg(100000 - setCount)
+                      .toStdString());
+        for (const QString& name : made) {
+            EXPECT_EQ(contentOf(folder.filePath(name)).count('\n'), 18 + 64 * 64);
+            QFile::remove(folder.filePath(name));
+        }
     }
-    process.terminate();
+}
+
+TEST_F(BatchSweepTest, SignalThatItWasStartedToIgnoreStaysIgnored) {
+    QProcess process;
+    startSweep(process, "sh", 200, {"-c", R"(trap '' INT; exec "$0" "$@")", TORVANE_BATCH});
+    kill(static_cast<pid_t>(process.processId()), SIGINT);
     ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(process.exitCode(), 1);
-    const QStringList made = files();
-    const int setCount = made.size() / 2;
-    EXPECT_EQ(process.readAllStandardError().toStdString(),
-              QString("Interrupted: %1 of 100000 sets are not made\n")
-                  .arg(100000 - setCount)
-                  .toStdString());
-    const QByteArray last = contentOf(folder.filePath("x" + made.first()));
-    EXPECT_EQ(last.count('\n'), 18 + 64 * 64);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    EXPECT_EQ(files().size(), 2 * 200);
+}
+
+TEST_F(BatchSweepTest, SetThatThereIsNoMemoryForIsToldAndTheRestIsMade) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes more memory than any limit leaves";
+#endif
+    const auto run = [&](int kilobytes, const QStringList& sizes) {
+        return BatchProgram::runInMemory(
+            kilobytes, sizes + QStringList{"--text", "U=u{columns}", "--text", "X=x{columns}"},
+            folder.path());
+    };
+    // As much as a small grid needs.
+    constexpr int step = 2048;
+    constexpr int plenty = 1 << 20;
+    int limit = step;
+    while (limit < plenty && run(limit, {"--columns", "5"}).exitCode != 0) {
+        limit += step;
+    }
+    const BatchProgram ended = run(limit, {"--rows", "500", "--sweep", "columns=500:5:2"});
+    EXPECT_EQ(ended.exitCode, 1);
+    EXPECT_EQ(ended.errors.toStdString(), "columns = 500: Nothing is made: there is no memory\n");
+    EXPECT_EQ(files(), (QStringList{"u5", "x5"}));
 }

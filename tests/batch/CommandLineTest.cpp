@@ -118,6 +118,9 @@ TEST_F(CommandLineTest, PicturesHaveLookCameraAndSize) {
     expectRefused({"--look", "shiny"}, "--look: There is no look shiny, only lit, plain and lines");
     expectRefused({"--camera", "fish"},
                   "--camera: There is no camera fish, only orthographic and perspective");
+    expectRefused({"--size", "3"}, "--size: 3 is not two numbers above 0 with an x between them");
+    expectRefused({"--size", "0x2"},
+                  "--size: 0x2 is not two numbers above 0 with an x between them");
     expectRefused({"--zoom", "0"}, "--zoom: 0 is not in 0.001 to 1000");
 }
 
@@ -147,12 +150,21 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
                   "K13 is both given and swept");
     expectRefused({"--grid", "9x9", "--sweep", "rows=5:6:2", "--text", "U={rows}"},
                   "rows is both given and swept");
+    expectRefused({"--sweep", "K13=0:1:1001", "--sweep", "K23=0:1:1000", "--text", "U={K13},{K23}"},
+                  "The sweeps make more than 1000000 sets");
+    expectRefused({"--sweep", "columns=11:12:2", "--sweep", "rows=11:12:2", "--list", "--text",
+                   "U={columns},{rows}", "--text", "X={rows},{columns}"},
+                  "11,11 is to be written twice: by {columns},{rows} for columns = 11, rows = 11 "
+                  "and by {rows},{columns} for columns = 11, rows = 11");
     expectRefused({"--direction", "0,0,0", "--text", "U=-"},
                   "A direction of the camera has the length 0");
     expectRefused({"--direction", "0,-2,0", "--text", "U=-"},
                   "What is up in the picture may not be where the camera looks");
     expectRefused({"--size", "110x5", "--text", "U=-"},
                   "A picture is 32767 dots wide and high at most");
+    expectRefused({"--size", "5x0.001", "--text", "U=-"},
+                  "A picture is a dot wide and high at least");
+    expectRefused({"--list", "--text", "U=a\nb"}, "A name with a line break cannot be listed: a");
 }
 
 TEST_F(CommandLineTest, OptionsCanStandInAFile) {
@@ -190,4 +202,19 @@ TEST_F(CommandLineTest, HelpNamesRangesAndStartValues) {
     EXPECT_NE(helped.find("second diagonal entry of K (0.01 to 100; start value 1.5)"),
               std::string::npos);
     EXPECT_NE(helped.find("radius of the tube (0 to 0.1; start value 0.01)"), std::string::npos);
+    EXPECT_NE(helped.find("--point-radius LENGTH"), std::string::npos);
+    EXPECT_NE(helped.find("--tube-radius LENGTH"), std::string::npos);
+    EXPECT_NE(helped.find("--turns COUNT"), std::string::npos);
+    EXPECT_NE(helped.find("LENGTH is in units of the coordinates of the space"), std::string::npos);
+    EXPECT_NE(helped.find("of the surfaces (0 to 100; start value 80)"), std::string::npos);
+    EXPECT_NE(helped.find("at first (0.001 to 1000; start value 1)"), std::string::npos);
+    EXPECT_NE(helped.find("of a picture (1 to 9600; start value 300)"), std::string::npos);
+}
+
+TEST(Paper, HasTheClosestNumberOfWholeDots) {
+    Paper paper;
+    paper.dotsPerInch = 96;
+    EXPECT_EQ(paper.dots(2.5), 240);
+    EXPECT_EQ(paper.dots(2.004), 192);
+    EXPECT_EQ(paper.dots(2.006), 193);
 }

@@ -4,7 +4,7 @@
 # every option.
 
 set -euo pipefail
-program=$1
+program=$(realpath "$1")
 source_tree=$(cd "$(dirname "$0")/../.." && pwd)
 # shellcheck source=batch/torvane-batch.bash
 source "$source_tree/batch/torvane-batch.bash"
@@ -32,6 +32,7 @@ expect "$(complete_words --look pl)" "plain"
 expect "$(complete_words --image h)" "helix="
 cd "$source_tree/batch"
 expect "$(complete_words --text U = torvane-batch.b)" "torvane-batch.bash"
+expect "$(complete_words --write-config torvane-batch.b)" "torvane-batch.bash"
 
 manual=$(sed 's/\\-/-/g' "$source_tree/batch/torvane-batch.1")
 for option in $(complete_words --); do

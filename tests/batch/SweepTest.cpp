@@ -40,6 +40,12 @@ TEST(Sweep, WhatIsNoSweepIsRefusedWithTheReason) {
     EXPECT_EQ(refusalOf("K13=1:2:1.5"), "1.5 is no number of values");
     EXPECT_EQ(refusalOf("K1=0:2:3"), "K1 = 0 is not in 0.01 to 100");
     EXPECT_EQ(refusalOf("rows=5:6:3"), "rows = 5.5 is no whole number");
+    EXPECT_EQ(refusalOf("K13=0.375:0.375:2"),
+              "K13=0.375:0.375:2 takes the value 0.375 more than once");
+    EXPECT_EQ(refusalOf("K13=0.5:0.500000000001:4"),
+              "K13=0.5:0.500000000001:4 takes the value 0.5 more than once")
+        << "once it is rounded";
+    EXPECT_EQ(refusalOf("K13=0:1:1000001"), "1000001 is no number of values");
 }
 
 TEST(Sweep, SeveralMakeTheirProductTheLastTheFastest) {
@@ -54,6 +60,12 @@ TEST(Sweep, SeveralMakeTheirProductTheLastTheFastest) {
     }
     EXPECT_EQ(values, (std::vector<std::pair<double, int>>{
                           {0.25, 5}, {0.25, 6}, {0.25, 7}, {0.5, 5}, {0.5, 6}, {0.5, 7}}));
+}
+
+TEST(Sweep, SweptValuesOfASetAreToldInTheOrderOfTheSweeps) {
+    const std::vector<Sweep> sweeps{Sweep::read("rows=5:7:3"), Sweep::read("K13=0.25:0.375:2")};
+    EXPECT_EQ(sweptValues(setsOf({}, sweeps)[3], sweeps), "rows = 6, K13 = 0.375");
+    EXPECT_EQ(sweptValues({}, {}), "");
 }
 
 TEST(Sweep, WithoutAnyThereIsTheOneSet) {

@@ -13,8 +13,8 @@ const std::string known = "%!PS-Adobe-2.0 EPSF-1.2\n"
                           "image\n"
                           "s8W-!~>\n";
 
-std::string corrected(const std::string& picture) {
-    const auto parts = EpsHeader::correct(picture, SbVec2s(1500, 900), 300);
+std::string corrected(const std::string& picture, const SbVec2s& pixels = {1500, 900}) {
+    const auto parts = EpsHeader::correct(picture, pixels, 300);
     return parts ? parts->header + std::string(parts->rest) : "unknown";
 }
 
@@ -34,6 +34,17 @@ TEST(EpsHeader, GetsTheSizeTheResolutionAndThePlaceAndKeepsAllElse) {
                                 "/image_ypos 0 def\n"
                                 "image\n"
                                 "s8W-!~>\n");
+}
+
+TEST(EpsHeader, BoxHoldsAllOfAPictureThatIsNotOfWholePoints) {
+    const auto boxOf = [](short width, short height) {
+        const std::string text = corrected(known, SbVec2s(width, height));
+        const std::size_t start = text.find("0 0");
+        return text.substr(start, text.find('\n', start) - start);
+    };
+    EXPECT_EQ(boxOf(750, 1), "0 0 180 1");
+    EXPECT_EQ(boxOf(751, 25), "0 0 181 6");
+    EXPECT_EQ(boxOf(32767, 26), "0 0 7865 7");
 }
 
 TEST(EpsHeader, HeaderThatIsNotKnownIsRefused) {

@@ -25,13 +25,13 @@ QByteArray PrintedViews::saved() const {
     return file.readAll();
 }
 
-QImage PrintedViews::drawn() const {
-    const QString picture = folder.filePath("drawn.png");
+QImage PrintedViews::drawn(const QString& postScript) {
+    const QString picture = postScript + ".png";
     const QString resolution = "-r" + QString::number(printer);
-    EXPECT_EQ(
-        QProcess::execute("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop",
-                                 "-sDEVICE=png16m", resolution, "-sOutputFile=" + picture, path()}),
-        0);
+    EXPECT_EQ(QProcess::execute("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop",
+                                       "-sDEVICE=png16m", resolution, "-sOutputFile=" + picture,
+                                       postScript}),
+              0);
     return QImage(picture).convertToFormat(QImage::Format_RGB32);
 }
 

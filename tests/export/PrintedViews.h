@@ -24,7 +24,8 @@ protected:
     QByteArray saved() const;
 
     /** The saved file as Ghostscript draws it for the printer. */
-    QImage drawn() const;
+    QImage drawn() const { return drawn(path()); }
+    static QImage drawn(const QString& postScript);
 
     /** Gives a view a size on the screen of whole inches, and one pixel at most. */
     void resizeToWholeInches(SoQtGeneralViewerFrame& frame, int width, int height) const;
