@@ -37,6 +37,7 @@ public:
         addCamera();
         addOutputs();
         app.get_option("--help")->group("Other");
+        app.set_version_flag("--version", "torvane-batch " TORVANE_VERSION)->group("Other");
         app.set_config("--config", "", "a file of options, TOML or INI")->group("Other");
         app.allow_config_extras(false);
     }
@@ -223,7 +224,7 @@ private:
         app.add_flag("--list", options.list,
                      "make nothing, but print a command for each set of the sweeps")
             ->group("Other");
-        notRepeated.insert({"--list", "--config", "--help"});
+        notRepeated.insert({"--list", "--config", "--help", "--version"});
     }
 
     static SbVec3f vector(const std::string& text) {
