@@ -14,6 +14,7 @@ test_packages=(
     valgrind time python3-clang libclang-common-14-dev)
 check_packages=(clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
+package_packages=(desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
 mutation_packages=(ccache git)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts
