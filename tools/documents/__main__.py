@@ -33,6 +33,9 @@ def main():
     )
     parser.add_argument("documents", nargs="*", type=pathlib.Path)
     parser.add_argument("--tree", type=pathlib.Path, default=ROOT, help="the source tree")
+    parser.add_argument(
+        "--folder", type=pathlib.Path, help="where commands are run, and what they write is kept"
+    )
     options = parser.parse_args()
     tree = options.tree.resolve()
     documents = [path.resolve() for path in options.documents] or [
@@ -40,7 +43,7 @@ def main():
         tree / "CONTRIBUTING.md",
         *sorted((tree / "docs").glob("*.md")),
     ]
-    checker = Checker(tree, lambda text: print(text, flush=True))
+    checker = Checker(tree, lambda text: print(text, flush=True), options.folder)
     wrong = [text for document in documents for text in checker.check(document)]
     for text in wrong:
         print(f"wrong: {text}", file=sys.stderr)

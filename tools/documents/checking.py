@@ -16,8 +16,10 @@ PATIENCE = 900
 class Checker:
     """Checks documents of a source tree whose programs have been built in tree/build/bin."""
 
-    def __init__(self, tree, report):
+    def __init__(self, tree, report, folder=None):
+        """Without a folder, the commands of each document are run in a temporary one."""
         self.tree = tree
+        self.folder = folder
         self.report = report
         self.top = {entry.name for entry in tree.iterdir()}
 
@@ -94,13 +96,13 @@ class Checker:
             if shown not in commands
         ]
         # The commands of a document build on each other: what one has written, the next reads.
-        with tempfile.TemporaryDirectory() as folder:
+        with tempfile.TemporaryDirectory() as temporary:
             for command in commands:
                 short = document.short_forms.get(command)
                 if short and not short.command:
                     self.report(f"{self._name(path)}: not run, {short.reason}: {command}")
                     continue
-                failure = self._run(short.command if short else command, folder)
+                failure = self._run(short.command if short else command, self.folder or temporary)
                 if failure:
                     wrong.append(f"{command}: {failure}")
         return wrong
