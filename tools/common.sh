@@ -12,7 +12,7 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
     valgrind time python3-clang libclang-common-14-dev)
-check_packages=(clang-format clang-tidy shellcheck black git)
+check_packages=(clang clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
 package_packages=(desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
 document_packages=(imagemagick parallel valgrind xvfb xauth)

@@ -56,6 +56,11 @@ and `./test --twice`. No commands are
 ```make
 all: torvane-batch --wrong
 ```
+
+and the file
+
+    #!/bin/sh
+    torvane-batch --wrong
 """
         self.assertEqual(self.wrong(text), [])
         self.assertEqual(

@@ -26,7 +26,8 @@ class Block:
 
     def commands(self):
         """The commands of a block of the shell's, continued lines joined, comments left out."""
-        if self.language not in SHELL_LANGUAGES:
+        is_script = self.lines and self.lines[0].startswith("#!")
+        if self.language not in SHELL_LANGUAGES or is_script:
             return []
         joined = "\n".join(self.lines).replace("\\\n", " ")
         commands = [re.sub(r"(^|\s)#.*", "", line) for line in joined.splitlines()]
