@@ -15,7 +15,7 @@ test_packages=(
 check_packages=(clang clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
 package_packages=(desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
-document_packages=(imagemagick parallel valgrind xvfb xauth)
+document_packages=(imagemagick parallel dpkg-dev xvfb xauth)
 mutation_packages=(ccache git)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts

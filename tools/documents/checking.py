@@ -8,7 +8,8 @@ import urllib.parse
 
 from .reading import Document, UnreadableMark
 
-PROGRAMS = {"torvane", "torvane-batch", "cmake", "ctest", "cpack"}
+BUILDERS = {"cmake", "ctest", "cpack"}
+PROGRAMS = {"torvane", "torvane-batch"} | BUILDERS
 VARIABLE = re.compile(r"^\w+=")
 PATIENCE = 900
 
@@ -72,7 +73,7 @@ class Checker:
 
     def _is_of_the_tree(self, word):
         built = word.startswith(("./", "build/bin/"))
-        return word == "cmake" or built or ("/" in word and (self.tree / word).is_file())
+        return word in BUILDERS or built or ("/" in word and (self.tree / word).is_file())
 
     def _is_command(self, span):
         """Whether a piece of code within a sentence is a command with arguments."""
