@@ -85,6 +85,10 @@ and the file
                 " ".join(self.wrong(text)), "^README.md: .*: ended with [0-9]+: ", text
             )
 
+    def test_commands_that_name_a_file_of_the_tree_are_run_there(self):
+        self.assertEqual(self.wrong("    cat ./docs/other.md\n"), [])
+        self.assertEqual(len(self.wrong("    cat docs/other.md\n")), 1)
+
     def test_failure_within_a_pipe_is_one(self):
         self.assertEqual(len(self.wrong("    false | cat\n")), 1)
 

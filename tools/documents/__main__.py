@@ -3,9 +3,9 @@
     tools/check-documents README.md docs/*.md
 
 Every link and every path must lead to something that is there. Every command of a block of code, and
-every one with arguments within a sentence, is run: those that begin with a path of the source tree, with
-cmake, ctest or cpack, in the tree; all others in an empty folder, one after the other, with build/bin on
-the path.
+every one with arguments within a sentence, is run. Those that begin with a path of the source tree, with
+cmake, ctest or cpack, or that name a file by ./, are run in the tree; all others in an empty folder, one
+after the other, with build/bin on the path.
 What takes too long or cannot be run here has a short form, in a comment of its document:
 
     <!-- short forms

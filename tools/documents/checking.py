@@ -112,13 +112,14 @@ class Checker:
         """Why a command failed; empty when it did not."""
         self.report(f"run: {command}")
         words = [word for word in command.split() if not VARIABLE.match(word)]
+        in_tree = self._is_of_the_tree(words[0]) or any(word.startswith("./") for word in words)
         environment = dict(os.environ)
         environment["PATH"] = f"{self.tree / 'build' / 'bin'}:{environment['PATH']}"
         environment["XDG_CONFIG_HOME"] = folder
         try:
             done = subprocess.run(
                 ["bash", "-e", "-o", "pipefail", "-c", command],
-                cwd=self.tree if self._is_of_the_tree(words[0]) else folder,
+                cwd=self.tree if in_tree else folder,
                 env=environment,
                 stdin=subprocess.DEVNULL,
                 stdout=subprocess.PIPE,
