@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <iostream>
 
 void Messages::selectHelixViewer() {
     QMessageBox box;
@@ -43,6 +44,16 @@ void Messages::about(QWidget* parent) {
         QCoreApplication::translate("MainWindow",
                                     "The <b>Lumarin</b> example shows how to use multiple Coin3D "
                                     "viewers with SoQt."));
+}
+
+void Messages::cannotStart(const QString& reason) {
+    std::cerr << reason.toStdString() << std::endl;
+    QMessageBox box;
+    box.setWindowTitle("Torvane");
+    box.setText(reason);
+    box.setIcon(QMessageBox::Critical);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.exec();
 }
 
 void Messages::warn(const QString& text, QWidget* parent) {

@@ -16,6 +16,9 @@ void brokenCondition(const char* picturePath, QWidget* parent);
 /** Says what the program is; returns when the box is closed. */
 void about(QWidget* parent);
 
+/** Says, on standard error too, why the program cannot start; returns when the box is closed. */
+void cannotStart(const QString& reason);
+
 /** Shows a warning; returns when the box is closed. */
 void warn(const QString& text, QWidget* parent);
 

@@ -1,4 +1,7 @@
+#include "app/DrawingRequirements.h"
 #include "app/MainWindow.h"
+#include "app/Messages.h"
+#include "app/ProgramInformation.h"
 #include "app/StartUp.h"
 #include "app/TerminationSignals.h"
 #include "viewer/WindowSystem.h"
@@ -8,9 +11,26 @@
 #include <Inventor/SoDB.h>
 #include <QApplication>
 #include <QSplashScreen>
+#include <cstdlib>
 #include <memory>
 
+namespace {
+
+/** Says why nothing can be shown, until the user or a signal ends that. */
+int refuse(const QString& reason, TerminationSignals& terminationSignals) {
+    QObject::connect(&terminationSignals, SIGNAL(received()), qApp, SLOT(quit()));
+    terminationSignals.deliver();
+    Messages::cannotStart(reason);
+    return EXIT_FAILURE;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
+    if (ProgramInformation::answer(argc, argv)) {
+        return 0;
+    }
+    DrawingRequirements::explainFailedStart();
     WindowSystem::prepareEnvironment();
     QApplication application(argc, argv);
     WindowSystem::setPlugInPath();
@@ -18,6 +38,12 @@ int main(int argc, char** argv) {
 
     QSplashScreen splash(StartUp::splashPicture());
     StartUp::showSplash(splash);
+    // Asked before the first view: the toolkit's own complaint keeps the program from ending.
+    const QString missing = DrawingRequirements::missing();
+    if (!missing.isEmpty()) {
+        splash.close();
+        return refuse(missing, terminationSignals);
+    }
 
     auto mainWindow = std::make_unique<MainWindow>();
     QApplication::setActiveWindow(mainWindow.get());

@@ -45,6 +45,7 @@ public:
     Parser()
         : table(app, options) {
         app.get_option("--help")->group(otherOptions);
+        app.set_version_flag("--version", "torvane-batch " TORVANE_VERSION)->group(otherOptions);
         app.set_config("--config", "", "a file of options, TOML or INI")
             ->type_name("FILE")
             ->group(otherOptions);
@@ -71,6 +72,9 @@ public:
         return {options, 0};
     } catch (const CLI::CallForHelp&) {
         return {std::nullopt, Targets::write(app.help(), Targets::standardOutput)};
+    } catch (const CLI::CallForVersion& version) {
+        return {std::nullopt,
+                Targets::write(version.what() + std::string("\n"), Targets::standardOutput)};
     } catch (const CLI::ParseError& error) {
         app.exit(error);
         return {std::nullopt, ExitCode::refused};

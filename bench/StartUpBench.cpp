@@ -4,6 +4,7 @@
 // viewers of the same size in a document area. Both run as processes of their own, this program
 // again with an argument, and end by themselves once each view has been drawn.
 
+#include "app/DrawingRequirements.h"
 #include "app/MainWindow.h"
 #include "app/StartUp.h"
 #include "bench/RatioReporter.h"
@@ -103,6 +104,9 @@ int runViewer(int argc, char** argv) {
     WindowSystem::setPlugInPath();
     QSplashScreen splash(StartUp::splashPicture());
     StartUp::showSplash(splash);
+    if (!DrawingRequirements::missing().isEmpty()) {
+        return 1;
+    }
     MainWindow window;
     window.resize(windowSize);
     QApplication::setActiveWindow(&window);

@@ -1,5 +1,10 @@
 # The viewer takes Qt's plug-ins from the folder PlugIns beside its own folder and from nowhere else.
-# Without that folder Qt finds no OpenGL integration and every view stays black.
+# Without that folder Qt finds no OpenGL integration and no view can be drawn.
+#
+# PlugIns is a link to the plug-ins of the very Qt that the program is linked with, in the build tree,
+# where it is installed, and in the package: a plug-in is loaded by the library that it was built with
+# only, so that a copy would be useless after the next update of Qt. Debian's folder is the same on
+# every machine of an architecture.
 
 get_target_property(qmake_program Qt5::qmake IMPORTED_LOCATION)
 execute_process(
@@ -8,7 +13,3 @@ execute_process(
   OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 
 file(CREATE_LINK ${TORVANE_QT_PLUGINS} ${CMAKE_BINARY_DIR}/PlugIns SYMBOLIC)
-install(
-  CODE "file(MAKE_DIRECTORY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
-file(CREATE_LINK \"${TORVANE_QT_PLUGINS}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/PlugIns\" SYMBOLIC)"
-)

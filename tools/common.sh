@@ -12,8 +12,10 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libbenchmark-dev libxres-dev openbox ghostscript locales-all
     valgrind time make parallel python3-clang libclang-common-14-dev)
-check_packages=(clang-format clang-tidy shellcheck black git)
+check_packages=(clang clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
+package_packages=(desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
+document_packages=(imagemagick parallel dpkg-dev xvfb xauth)
 mutation_packages=(ccache git)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts
