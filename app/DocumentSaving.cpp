@@ -88,7 +88,7 @@ QString DocumentSaving::writeText(const QString& fileName, const SoQtGeneralView
                                   bool isHyperboloid) {
     WholeFile file(fileName);
     if (!file.isOpen()) {
-        // On purpose a file that cannot be opened is not reported.
+        // On purpose a file that cannot be opened is not reported (docs/kept-on-purpose.md).
         return file.isWritableInPlace() ? notSaved(fileName, file.errorString()) : QString();
     }
     writeNumbers(file, frame, isHyperboloid);

@@ -21,7 +21,8 @@ struct Entry {
 std::array<Entry, HelixParameter::count> entries() {
     return {{
         // On purpose: a spin box of integers has no such signal, Qt refuses the connection with a
-        // warning, and what is typed into the tube radius does not move its slider.
+        // warning, and what is typed into the tube radius does not move its slider
+        // (docs/kept-on-purpose.md).
         {QT_TRANSLATE_NOOP("HelixWindow", "&Tube Radius:"), SIGNAL(valueChanged(double)),
          SLOT(helix_change_radius(int))},
         {QT_TRANSLATE_NOOP("HelixWindow", "&Ribbon Range:"), SIGNAL(valueChanged(int)),
@@ -35,7 +36,10 @@ std::array<Entry, HelixParameter::count> entries() {
     }};
 }
 
-/** On purpose truncated, not rounded: a tube radius of 0.01, a little less as a float, gives 99. */
+/**
+ * On purpose truncated, not rounded: a tube radius of 0.01, a little less as a float, gives 99
+ * (docs/kept-on-purpose.md).
+ */
 int inSteps(const HelixParameter& parameter, const Helix& helix) {
     return static_cast<int>(parameter.valueIn(helix) * parameter.stepsPerUnit);
 }

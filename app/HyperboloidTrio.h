@@ -39,12 +39,15 @@ public:
     /** Adds a sphere of this name at a vertex of each frame. */
     void addSpheres(SbName name, int index);
 
-    /** Removes a helix's spheres; every frame forgets the helix it steers, whichever that is. */
+    /**
+     * Removes a helix's spheres; every frame forgets the helix it steers, whichever that is
+     * (docs/kept-on-purpose.md).
+     */
     void forgetHelix(SbName name);
 
     /**
-     * Ties helices to the vertices at the same relative place of a rebuilt grid, one after the
-     * other; afterwards all frames steer the helix that the U frame steered before.
+     * Ties helices to the vertices of a rebuilt grid that VertexGrid::atSamePlace() gives, one
+     * after the other; afterwards all frames steer the helix that the U frame steered before.
      *
      * @param oldVertexCount number of vertices of the U surface before it was rebuilt
      */

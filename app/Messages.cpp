@@ -39,6 +39,7 @@ void Messages::brokenCondition(const char* picturePath, QWidget* parent) {
 }
 
 void Messages::about(QWidget* parent) {
+    // Title and name are those that users know (docs/kept-on-purpose.md).
     QMessageBox::about(
         parent, QCoreApplication::translate("MainWindow", "About MDI"),
         QCoreApplication::translate("MainWindow",

@@ -31,7 +31,10 @@ class SoSeparator;
  * std::logic_error when the grid has changed and init_tables was left out.
  *
  * Degenerate parameters are reported on the standard error stream and replaced by fallback values;
- * K1 = K2 and negative lambdas are not reported and give NaN or infinite coordinates.
+ * K1 = K2 and negative lambdas are not reported and give NaN or infinite coordinates. Lambdas are
+ * negative only by rounding: where the quadric is a cone or almost one, k of
+ * HyperboloidCoefficients::lambda, a difference of rounded numbers, can come out with the wrong
+ * sign (docs/mathematics.md, 6.4).
  *
  * Every Draw operation returns a new, unreferenced separator that the caller adds to a scene.
  */
@@ -96,7 +99,8 @@ public:
      * p = (alpha0 r cos(theta), alpha1 r sin(theta), -alpha2 t) with r = sqrt(t^2 + 1), in float.
      *
      * Another parameterisation than the generated one on purpose: it ignores swapped axes and
-     * negates the third coordinate. Nothing of the viewer relies on it.
+     * negates the third coordinate. Nothing of the viewer relies on it
+     * (docs/kept-on-purpose.md).
      */
     void computePositionForParams(float t, float theta, float (&p)[3]);
     /** E = (K w) . w with w = u - uHat. */

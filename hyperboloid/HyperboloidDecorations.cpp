@@ -138,7 +138,7 @@ SoSeparator* HyperboloidDecorations::createCone(Vecteur A, Vecteur B, float radi
     points.reserve(conePoints);
     points.push_back(narrowed(baseCenter - height * toTriple(direction)));
     // The rim begins one step from 0 and so ends one beyond the full turn, on its first point; its
-    // angles are summed in float. Both are on purpose.
+    // angles are summed in float. Both are on purpose (docs/kept-on-purpose.md).
     auto phi = static_cast<float>(Ring::step);
     for (int k = 0; k < Ring::pointCount; ++k) {
         points.push_back(plane.point(baseCenter, radius * std::sin(phi), radius * std::cos(phi)));

@@ -42,8 +42,9 @@ SoSeparator* createCone(Vecteur A, Vecteur B, float radius, float height);
 SoSeparator* createU3Axis(const HyperboloidSpaces& spaces, int space, float range, float radius);
 
 /**
- * The four rulings of the surface on which u3 is constant (-a/b or -c/d), as red tubes of
- * half-length `range`. b = 0 or d = 0 gives infinite or NaN lines.
+ * The four rulings of the quadric on which u3 is constant (-a/b or -c/d), as red tubes of
+ * half-length `range`. Where another surface is drawn in the quadric's place they do not lie on
+ * it. b = 0 or d = 0 gives infinite or NaN lines.
  */
 SoSeparator* createU3ConstAxis(const HyperboloidSpaces& spaces, int space,
                                const HyperboloidCoefficients::Pnas& pnas, float range,

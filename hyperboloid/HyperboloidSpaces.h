@@ -12,8 +12,9 @@
  *
  *     x = R u + s      u = R^-1 (x - s)      m = K (u - uHat)
  *
- * R is a shear-like matrix, not orthogonal. It is inverted once, on construction; a singular R
- * gives infinite or NaN coordinates and no error.
+ * R is a shear-like matrix, not orthogonal, of determinant -2. It is inverted once, on
+ * construction. For K1 = K2 its entries are not finite; then coordinates are infinite or NaN, and
+ * there is no error.
  */
 class HyperboloidSpaces {
 public:

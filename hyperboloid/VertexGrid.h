@@ -25,14 +25,16 @@ struct VertexGrid {
     /**
      * The vertex one step away, on a grid that has vertices. Rows end at the first and the last;
      * columns wrap around, and the last column, which repeats the first, is never reached. On
-     * purpose right lowers the column and left raises it. A direction that is none leads nowhere.
+     * purpose right lowers the column and left raises it (docs/kept-on-purpose.md). A direction
+     * that is none leads nowhere.
      */
     [[nodiscard]] int neighbour(int vertex, int direction) const;
 
     /**
-     * The vertex of a new grid of `newCount` vertices at the relative place of vertex `index` of an
-     * old one: newCount (index / oldCount), computed in double and truncated. The quotient's
-     * rounding is part of it: on an unchanged grid some vertices move by one.
+     * The vertex of a new grid of `newCount` vertices with the share of all that vertex `index` had
+     * of an old one: newCount (index / oldCount), computed in double and truncated. The quotient's
+     * rounding is part of it: on an unchanged grid some vertices move by one
+     * (docs/kept-on-purpose.md).
      */
     static int atSamePlace(int index, int oldCount, int newCount);
 };

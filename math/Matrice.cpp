@@ -153,7 +153,7 @@ std::ostream& operator<<(std::ostream& out, Matrice M) {
         }
         out << " ]" << std::endl;
     }
-    // On purpose always three values in the last row.
+    // On purpose always three values in the last row (docs/kept-on-purpose.md).
     out << "  [";
     for (int j = 0; j < dimension; ++j) {
         out << "  " << M[lastRow][j];

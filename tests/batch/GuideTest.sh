@@ -1,7 +1,7 @@
 #!/bin/bash
 # usage: GuideTest.sh PROGRAM
-# What the user guide shows of the program without a window is what its commands do: they make the
-# pictures in it, and each of its ways to spread a sweep makes the files of the sweep.
+# What the documents show of the program without a window is what its commands do: they make the
+# pictures in them, and each way to spread a sweep makes the files of the sweep.
 
 set -euo pipefail
 PATH=$(dirname "$(realpath "$1")"):$PATH
@@ -25,8 +25,8 @@ differing() {
 
 mkdir "$work/figures"
 "$docs/make-figures" "$work/figures"
-[[ $(cd "$work/figures" && echo *) == "$(cd "$docs/images" && echo batch-*)" ]] ||
-    fail "the guide makes other pictures than it shows"
+[[ $(cd "$work/figures" && echo *) == "$(cd "$docs/images" && echo *-*)" ]] ||
+    fail "the documents make other pictures than they show"
 for picture in "$work/figures"/*; do
     shown=$docs/images/${picture##*/}
     [[ $(identify -format %wx%h "$picture") == "$(identify -format %wx%h "$shown")" ]] ||
@@ -35,9 +35,11 @@ for picture in "$work/figures"/*; do
     [[ $(differing "$picture" "$shown") -lt 2000 ]] || fail "$picture does not look like $shown"
 done
 
-# block WORD: the indented lines of the guide, as they are meant, of the block that has a word
+# block WORD: the lines of the guide, as they are meant, of the indented or fenced block that has a word
 block() {
     awk -v word="$1" '
+        /^```/ { fenced = !fenced }
+        fenced && !/^```/ { lines = lines $0 "\n"; next }
         /^    / { lines = lines substr($0, 5) "\n"; next }
         { if (index(lines, word)) { printf "%s", lines; exit } lines = "" }
     ' "$docs/user-guide.md"
