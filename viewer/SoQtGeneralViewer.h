@@ -1,10 +1,14 @@
 #pragma once
 
+#include "scene/SceneNodes.h"
+#include "viewer/DocumentRoot.h"
+#include "viewer/SurfacePicture.h"
 #include "viewer/WindowCover.h"
 #include "viewer/WindowReturn.h"
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 
+class DocumentScene;
 class SoQtGeneralViewerFrame;
 
 /**
@@ -22,12 +26,25 @@ public:
      * @param embed non-zero when the viewer is a child of the frame, zero for a window of its own
      */
     SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed);
-    ~SoQtGeneralViewer() override = default;
+    ~SoQtGeneralViewer() override;
     SoQtGeneralViewer(const SoQtGeneralViewer&) = delete;
     SoQtGeneralViewer& operator=(const SoQtGeneralViewer&) = delete;
 
     /** Lights both sides of the scene's surfaces; to be called once, when the scene is set. */
     void lightBothSides();
+
+    /**
+     * Keeps the picture of what follows the scene's look, from one frame to the next, as long as it
+     * stays the same; to be called once, when the scene is set. It changes no picture.
+     */
+    void keepSurfaceOf(const DocumentScene& scene);
+
+    /**
+     * Whether pictures are kept, as they are at first unless TORVANE_KEEP_PICTURES is set to 0 in
+     * the environment. Without them every frame is drawn wholly: for drivers whose copies of
+     * framebuffers cannot be relied on.
+     */
+    void setKeepsPictures(bool keeps) { keepsPictures = keeps; }
 
     /** Whether the next click chooses a point to fly to. */
     SbBool isSeekMode() const;
@@ -49,6 +66,9 @@ private:
 
     bool isInSight() const;
 
+    /** Whether a frame is one drawing of the scene into an empty back buffer. */
+    bool drawsInOneGo() const;
+
     /**
      * Software OpenGL learns of a new window size only when buffers are swapped: without this, the
      * first frame after a change of size is drawn into buffers of the old size and never seen.
@@ -62,4 +82,7 @@ private:
     WindowReturn windowReturn;
     WindowCover cover;
     SbVec2s presentedSize{0, 0};
+    NodePointer<DocumentRoot> root;
+    SurfacePicture surfacePicture;
+    bool keepsPictures;
 };
