@@ -106,6 +106,11 @@ void SoQtGeneralViewer::redraw() {
     getGLWidget()->update();
 }
 
+SbBool SoQtGeneralViewer::glScheduleRedraw() {
+    surfacePicture.forget();
+    return SoQtExaminerViewer::glScheduleRedraw();
+}
+
 bool SoQtGeneralViewer::isInSight() const {
     const QWidget* widget = getGLWidget();
     const QWindow* view = widget->windowHandle();

@@ -60,6 +60,12 @@ protected:
      */
     void redraw() override;
 
+    /**
+     * Called when the window system asks for the window to be painted. What was hidden, or outside of
+     * the window, need not have been drawn before, and so not have been kept.
+     */
+    SbBool glScheduleRedraw() override;
+
 private:
     /** Handles the viewer's own keys; returns whether the event was one of them. */
     bool processKey(const SoEvent* event);

@@ -42,9 +42,8 @@ bool SurfacePicture::show(SoGLRenderAction& action, const SoNode& surface,
                           const std::function<void()>& drawSurface) {
     const SurfaceSight now(action, surface);
     if (now != sight) {
+        forget();
         sight = now;
-        picture.forget();
-        isRefused = false;
         return false;
     }
     if (isRefused || hasTransparency(*action.getCurPath()->getHead()) || !hasShape(surface)) {
@@ -62,4 +61,10 @@ bool SurfacePicture::show(SoGLRenderAction& action, const SoNode& surface,
     drawSurface();
     isRefused = !picture.take();
     return true;
+}
+
+void SurfacePicture::forget() {
+    sight = SurfaceSight();
+    picture.forget();
+    isRefused = false;
 }

@@ -28,6 +28,9 @@ public:
     bool show(SoGLRenderAction& action, const SoNode& surface,
               const std::function<void()>& drawSurface);
 
+    /** Draws the next frame wholly, and the picture is taken anew. */
+    void forget();
+
     /** Gives the memory back, in the context that was drawn in. */
     void drop() { picture.drop(); }
 
