@@ -14,13 +14,18 @@ bool isFinite(const SbBox3f& box) {
 } // namespace
 
 void FiniteSeparator::getBoundingBox(SoGetBoundingBoxAction* action) {
-    const SbXfBox3f withoutContents = action->getXfBoundingBox();
+    SbXfBox3f& box = action->getXfBoundingBox();
+    const SbXfBox3f around = box;
+    box.makeEmpty();
     SoSeparator::getBoundingBox(action);
-    // A box that swallows its undefined part still leaves an undefined centre.
+    const SbBox3f contents = action->getBoundingBox();
+    box = around;
     const bool finiteCentre = !action->isCenterSet() || isFinite(action->getCenter());
-    if (!isFinite(action->getBoundingBox()) || !finiteCentre) {
-        action->getXfBoundingBox() = withoutContents;
+    if (!isFinite(contents) || !finiteCentre) {
         action->resetCenter();
+    } else if (!contents.isEmpty()) {
+        // As a box of the coordinates outside: the library would carry the whole into those inside.
+        box.extendBy(contents);
     }
 }
 

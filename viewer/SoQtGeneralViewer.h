@@ -61,8 +61,8 @@ protected:
     void redraw() override;
 
     /**
-     * Called when the window system asks for the window to be painted. What was hidden, or outside of
-     * the window, need not have been drawn before, and so not have been kept.
+     * Called when the window system asks for the window to be painted. What was hidden, or outside
+     * of the window, need not have been drawn before, and so not have been kept.
      */
     SbBool glScheduleRedraw() override;
 

@@ -7,6 +7,7 @@
 #include <Inventor/elements/SoViewingMatrixElement.h>
 #include <Inventor/elements/SoViewportRegionElement.h>
 #include <Inventor/misc/SoChildList.h>
+#include <Inventor/nodes/SoCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <Inventor/system/gl.h>
 #include <array>
@@ -37,7 +38,8 @@ void SurfaceSight::addElderBrothers(const SoNode& parent, const SoNode* child) {
     const SoChildList* children = parent.getChildren();
     for (int i = 0; children != nullptr && (*children)[i] != child; ++i) {
         const SoNode* brother = (*children)[i];
-        if (!brother->isOfType(SoSeparator::getClassTypeId())) {
+        if (!brother->isOfType(SoSeparator::getClassTypeId()) &&
+            !brother->isOfType(SoCamera::getClassTypeId())) {
             nodes.push_back(brother->getNodeId());
         }
     }

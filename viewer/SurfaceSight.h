@@ -31,12 +31,11 @@ public:
     /** The size of the window that is drawn into, in pixels. */
     const SbVec2s& windowSize() const { return window; }
 
-private:
+public:
     void addElderBrothers(const SoNode& parent, const SoNode* child);
 
-    /** Of the part and of what comes before it; a node's number changes with its contents. */
+    /** Of the part and of what sets its look; a node's number changes with its contents. */
     std::vector<SbUniqueId> nodes;
-    // The viewer moves the camera's clipping planes without a new number for the camera.
     SbMatrix projection = SbMatrix::identity();
     SbMatrix viewing = SbMatrix::identity();
     SbMatrix model = SbMatrix::identity();
