@@ -14,18 +14,13 @@ bool isFinite(const SbBox3f& box) {
 } // namespace
 
 void FiniteSeparator::getBoundingBox(SoGetBoundingBoxAction* action) {
-    SbXfBox3f& box = action->getXfBoundingBox();
-    const SbXfBox3f around = box;
-    box.makeEmpty();
+    const SbXfBox3f withoutContents = action->getXfBoundingBox();
     SoSeparator::getBoundingBox(action);
-    const SbBox3f contents = action->getBoundingBox();
-    box = around;
+    // A box that swallows its undefined part still leaves an undefined centre.
     const bool finiteCentre = !action->isCenterSet() || isFinite(action->getCenter());
-    if (!isFinite(contents) || !finiteCentre) {
+    if (!isFinite(action->getBoundingBox()) || !finiteCentre) {
+        action->getXfBoundingBox() = withoutContents;
         action->resetCenter();
-    } else if (!contents.isEmpty()) {
-        // As a box of the coordinates outside: the library would carry the whole into those inside.
-        box.extendBy(contents);
     }
 }
 

@@ -12,9 +12,6 @@
  * asks to see everything: nothing is then seen, not even when the points have become finite again.
  * The library also takes every ray for a hit of a triangle that is not finite.
  *
- * Finite contents that lie within the rest of the scene do not move the box around it by a rounding
- * either, wherever they are: what moves there leaves the camera's clipping planes where they were.
- *
  * It has no type of its own in the scene library, on purpose: getTypeId() is SoSeparator's.
  */
 class FiniteSeparator : public SoSeparator {

@@ -20,6 +20,7 @@ SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* 
     setCameraType(SoOrthographicCamera::getClassTypeId());
     setPopupMenuEnabled(FALSE);
     setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
+    clipping.install(*this);
 }
 
 SoQtGeneralViewer::~SoQtGeneralViewer() {
