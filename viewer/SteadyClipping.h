@@ -14,6 +14,7 @@ class SoQtViewer;
 class SteadyClipping {
 public:
     SteadyClipping() = default;
+    ~SteadyClipping() = default;
     SteadyClipping(const SteadyClipping&) = delete;
     SteadyClipping& operator=(const SteadyClipping&) = delete;
 
