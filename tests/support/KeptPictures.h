@@ -27,7 +27,7 @@ public:
     /** What the screen shows after a frame that is drawn wholly. */
     QImage wholly() {
         frame->getViewer()->setKeepsPictures(false);
-        const QImage picture = shown();
+        QImage picture = shown();
         frame->getViewer()->setKeepsPictures(true);
         surfaces.take();
         return picture;
