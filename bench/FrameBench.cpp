@@ -1,9 +1,9 @@
-// What drawing one frame of a view costs the GUI thread, at the finest grid. With software OpenGL
-// the rasteriser's own threads come on top; they are not counted.
+// What drawing one frame of a view wholly costs the GUI thread, at the finest grid. With software
+// OpenGL the rasteriser's own threads come on top; they are not counted.
 
 #include "app/ImageExport.h"
-#include "app/MainWindow.h"
 #include "bench/RatioReporter.h"
+#include "bench/ShownWindow.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
 #include "viewer/WindowSystem.h"
@@ -12,9 +12,6 @@
 #include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QApplication>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QTest>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
@@ -35,68 +32,47 @@ double threadSeconds() {
 constexpr int finestGrid = 500;
 constexpr int coarseGrid = 64;
 
-class ShownWindow {
-public:
-    explicit ShownWindow(int grid = finestGrid) {
-        window.resize(1000, 800);
-        window.setUpMainViewer();
-        window.refresh_hyperboloids(1, 1.5, 1, 0.5, 0.5, 1, 0, 0, grid, grid, 0.3, 7, 7, 0.02,
-                                    0.03);
-        window.show();
-        [[maybe_unused]] const bool exposed = QTest::qWaitForWindowExposed(&window);
-        QCoreApplication::processEvents();
-    }
+SoSeparator& surfaceOf(const HyperboloidFrame& frame) {
+    auto* branch = static_cast<SoSeparator*>(frame.getSceneRoot()->getChild(3));
+    return *static_cast<SoSeparator*>(branch->getChild(branch->getNumChildren() - 1));
+}
 
-    HyperboloidFrame& u() const {
-        return *qobject_cast<HyperboloidFrame*>(
-            window.findChild<QMdiArea*>()->subWindowList()[0]->widget());
-    }
-
-    SoSeparator& surface() const {
-        auto* branch = static_cast<SoSeparator*>(u().getSceneRoot()->getChild(3));
-        return *static_cast<SoSeparator*>(branch->getChild(branch->getNumChildren() - 1));
-    }
-
-    void drawRepeatedly(State& state) const {
-        SoQtGeneralViewer& viewer = *u().getViewer();
+void drawRepeatedly(State& state, const ShownWindow& shown) {
+    SoQtGeneralViewer& viewer = *shown.u().getViewer();
+    viewer.render();
+    viewer.render();
+    for ([[maybe_unused]] const auto iteration : state) {
+        const double before = threadSeconds();
         viewer.render();
-        viewer.render();
-        for ([[maybe_unused]] const auto iteration : state) {
-            const double before = threadSeconds();
-            viewer.render();
-            state.SetIterationTime(threadSeconds() - before);
-        }
+        state.SetIterationTime(threadSeconds() - before);
     }
-
-private:
-    MainWindow window;
-};
+}
 
 void drawSurface(State& state, SoSeparator::CacheEnabled caching) {
-    const ShownWindow shown;
-    shown.surface().renderCaching = caching;
-    shown.drawRepeatedly(state);
+    const ShownWindow shown(finestGrid, false);
+    surfaceOf(shown.u()).renderCaching = caching;
+    drawRepeatedly(state, shown);
 }
 
 void drawAsIs(State& state) {
-    const ShownWindow shown;
-    shown.drawRepeatedly(state);
+    const ShownWindow shown(finestGrid, false);
+    drawRepeatedly(state, shown);
 }
 
 void drawFullyCached(State& state) {
-    const ShownWindow shown;
+    const ShownWindow shown(finestGrid, false);
     shown.u().getSceneRoot()->renderCaching = SoSeparator::ON;
-    shown.drawRepeatedly(state);
+    drawRepeatedly(state, shown);
 }
 
 /** A frame right after the surface was replaced, as after every step of an appearance slider. */
 void drawNewSurface(State& state, SoSeparator::CacheEnabled caching) {
-    const ShownWindow shown;
+    const ShownWindow shown(finestGrid, false);
     SoQtGeneralViewer& viewer = *shown.u().getViewer();
     viewer.render();
     for ([[maybe_unused]] const auto iteration : state) {
         shown.u().reDraw(false, false);
-        shown.surface().renderCaching = caching;
+        surfaceOf(shown.u()).renderCaching = caching;
         const double before = threadSeconds();
         viewer.render();
         state.SetIterationTime(threadSeconds() - before);
@@ -105,7 +81,7 @@ void drawNewSurface(State& state, SoSeparator::CacheEnabled caching) {
 
 /** The export of a picture of 1800 x 1500, as the program without a window makes many. */
 void exportImage(State& state) {
-    const ShownWindow shown(coarseGrid);
+    const ShownWindow shown(coarseGrid, true);
     SoQtGeneralViewer& viewer = *shown.u().getViewer();
     const auto pixels = [](int inches) {
         const float count =

@@ -28,7 +28,7 @@ SoSeparator* createSeparator(SoNode* firstChild) {
 } // namespace
 
 DocumentScene::DocumentScene()
-    : root(createSeparator(Lights::createEnvironment(ambientIntensity)))
+    : root(new DocumentRoot)
     , phongProgram(ShaderPrograms::createPhong())
     , solidProgram(ShaderPrograms::createSolid())
     , drawStyle(new SoDrawStyle)
@@ -41,6 +41,7 @@ DocumentScene::DocumentScene()
     shadingSwitch->addChild(solidProgram);
     shadingSwitch->whichChild = phongChild;
     drawStyleSeparator->addChild(shadingSwitch);
+    root->addChild(Lights::createEnvironment(ambientIntensity));
     root->addChild(solidSeparator);
     root->addChild(phongSeparator);
     root->addChild(drawStyleSeparator);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scene/SceneNodes.h"
+#include "viewer/DocumentRoot.h"
 
 #include <Inventor/SbName.h>
 
@@ -34,7 +35,7 @@ public:
     DocumentScene(const DocumentScene&) = delete;
     DocumentScene& operator=(const DocumentScene&) = delete;
 
-    SoSeparator* getRoot() const { return root.get(); }
+    DocumentRoot* getRoot() const { return root.get(); }
     SoSeparator* getSolidSeparator() const { return solidSeparator; }
     SoSeparator* getPhongSeparator() const { return phongSeparator; }
     SoSeparator* getDrawStyleSeparator() const { return drawStyleSeparator; }
@@ -62,7 +63,7 @@ public:
     static void removeChild(const SbName& name, SoSeparator& parent);
 
 private:
-    NodePointer<SoSeparator> root;
+    NodePointer<DocumentRoot> root;
     // Below the root, which owns them.
     SoShaderProgram* phongProgram;
     SoShaderProgram* solidProgram;

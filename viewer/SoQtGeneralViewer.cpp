@@ -1,5 +1,6 @@
 #include "viewer/SoQtGeneralViewer.h"
 
+#include "viewer/DocumentScene.h"
 #include "viewer/SeenScene.h"
 #include "viewer/SoQtGeneralViewerFrame.h"
 
@@ -14,15 +15,44 @@
 SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed)
     : SoQtExaminerViewer(owner, name, embed, SoQtFullViewer::BUILD_ALL, SoQtViewer::BROWSER)
     , frame(owner)
-    , windowReturn([this] { scheduleRedraw(); }) {
+    , windowReturn([this] { scheduleRedraw(); })
+    , keepsPictures(qgetenv("TORVANE_KEEP_PICTURES") != "0") {
     setCameraType(SoOrthographicCamera::getClassTypeId());
     setPopupMenuEnabled(FALSE);
     setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
+    clipping.install(*this);
+}
+
+SoQtGeneralViewer::~SoQtGeneralViewer() {
+    if (root != nullptr) {
+        root->setSurfaceSource(nullptr, nullptr);
+        glLockNormal();
+        surfacePicture.drop();
+        glUnlockNormal();
+    }
 }
 
 void SoQtGeneralViewer::lightBothSides() {
     // The viewer's own graph around the scene, not the scene.
     SeenScene::lightBothSides(static_cast<SoSeparator&>(*getSceneManager()->getSceneGraph()));
+}
+
+void SoQtGeneralViewer::keepSurfaceOf(const DocumentScene& scene) {
+    root.reset(scene.getRoot());
+    const SoNode* surface = scene.getDrawStyleSeparator();
+    root->setSurfaceSource(
+        surface, [this, surface](SoGLRenderAction& action, const DocumentRoot::DrawSurface& draw) {
+            // The scene is also drawn elsewhere, for exports.
+            return &action == getGLRenderAction() && drawsInOneGo() &&
+                   surfacePicture.show(action, *surface, draw);
+        });
+}
+
+bool SoQtGeneralViewer::drawsInOneGo() const {
+    return keepsPictures && getDrawStyle(STILL) == VIEW_AS_IS &&
+           getDrawStyle(INTERACTIVE) == VIEW_SAME_AS_STILL && !isStereoViewing() &&
+           getBufferingType() == BUFFER_DOUBLE && isClearBeforeRender() &&
+           isClearZBufferBeforeRender();
 }
 
 SbBool SoQtGeneralViewer::isSeekMode() const {
@@ -75,6 +105,11 @@ void SoQtGeneralViewer::redraw() {
     presentEmptyFrame();
     // The toolkit paints the widget after a change of size anyway: the scene is drawn with that.
     getGLWidget()->update();
+}
+
+SbBool SoQtGeneralViewer::glScheduleRedraw() {
+    surfacePicture.forget();
+    return SoQtExaminerViewer::glScheduleRedraw();
 }
 
 bool SoQtGeneralViewer::isInSight() const {

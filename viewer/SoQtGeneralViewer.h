@@ -1,10 +1,15 @@
 #pragma once
 
+#include "scene/SceneNodes.h"
+#include "viewer/DocumentRoot.h"
+#include "viewer/SteadyClipping.h"
+#include "viewer/SurfacePicture.h"
 #include "viewer/WindowCover.h"
 #include "viewer/WindowReturn.h"
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 
+class DocumentScene;
 class SoQtGeneralViewerFrame;
 
 /**
@@ -22,12 +27,25 @@ public:
      * @param embed non-zero when the viewer is a child of the frame, zero for a window of its own
      */
     SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* name, int embed);
-    ~SoQtGeneralViewer() override = default;
+    ~SoQtGeneralViewer() override;
     SoQtGeneralViewer(const SoQtGeneralViewer&) = delete;
     SoQtGeneralViewer& operator=(const SoQtGeneralViewer&) = delete;
 
     /** Lights both sides of the scene's surfaces; to be called once, when the scene is set. */
     void lightBothSides();
+
+    /**
+     * Keeps the picture of what follows the scene's look, from one frame to the next, as long as it
+     * stays the same; to be called once, when the scene is set. It changes no picture.
+     */
+    void keepSurfaceOf(const DocumentScene& scene);
+
+    /**
+     * Whether pictures are kept, as they are at first unless TORVANE_KEEP_PICTURES is set to 0 in
+     * the environment. Without them every frame is drawn wholly: for drivers whose copies of
+     * framebuffers cannot be relied on.
+     */
+    void setKeepsPictures(bool keeps) { keepsPictures = keeps; }
 
     /** Whether the next click chooses a point to fly to. */
     SbBool isSeekMode() const;
@@ -43,11 +61,20 @@ protected:
      */
     void redraw() override;
 
+    /**
+     * Called when the window system asks for the window to be painted. What was hidden, or outside
+     * of the window, need not have been drawn before, and so not have been kept.
+     */
+    SbBool glScheduleRedraw() override;
+
 private:
     /** Handles the viewer's own keys; returns whether the event was one of them. */
     bool processKey(const SoEvent* event);
 
     bool isInSight() const;
+
+    /** Whether a frame is one drawing of the scene into an empty back buffer. */
+    bool drawsInOneGo() const;
 
     /**
      * Software OpenGL learns of a new window size only when buffers are swapped: without this, the
@@ -62,4 +89,8 @@ private:
     WindowReturn windowReturn;
     WindowCover cover;
     SbVec2s presentedSize{0, 0};
+    SteadyClipping clipping;
+    NodePointer<DocumentRoot> root;
+    SurfacePicture surfacePicture;
+    bool keepsPictures;
 };

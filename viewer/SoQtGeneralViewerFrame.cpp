@@ -72,6 +72,7 @@ void SoQtGeneralViewerFrame::createViewer() {
     viewer = std::make_unique<SoQtGeneralViewer>(this, title.toLocal8Bit().constData(), 1);
     viewer->setSceneGraph(root);
     viewer->lightBothSides();
+    viewer->keepSurfaceOf(*scene);
     viewer->setFeedbackVisibility(TRUE);
     enableMultisampling();
     viewer->show();

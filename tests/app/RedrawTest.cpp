@@ -35,6 +35,23 @@ TEST(Redraw, KeyStepDrawsEveryViewOnce) {
     EXPECT_EQ(counted.drawings(), (Counts{1, 1, 1, 1}));
 }
 
+TEST(Redraw, StepsThatWaitedAreAllMadeAndDrawnTogether) {
+    CountedWindow counted;
+    HyperboloidFrame& u = counted.opened.hyperboloid(Hyperboloid::USPACE);
+    QWidget& view = ViewDriver(u).widget();
+    constexpr int steps = 40;
+    for (int i = 0; i < steps; ++i) {
+        QCoreApplication::postEvent(
+            &view, new QKeyEvent(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier, "", true));
+    }
+    const std::vector<int> drawings = counted.drawings();
+    EXPECT_EQ(counted.opened.firstHelix().getIndex(), steps * static_cast<int>(u.getNumRow()));
+    for (const int drawn : drawings) {
+        EXPECT_GE(drawn, 1);
+        EXPECT_LE(drawn, 2);
+    }
+}
+
 TEST(Redraw, PickDrawsEveryViewOnce) {
     CountedWindow counted;
     HyperboloidFrame& u = counted.opened.hyperboloid(Hyperboloid::USPACE);

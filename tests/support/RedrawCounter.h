@@ -12,18 +12,20 @@
 
 #include "tests/support/Waiting.h"
 
-/** Counts how often a frame's scene is drawn, by a node of its own at the scene's end. */
+/** Counts how often a frame's scene, or a part of it, is drawn, by a node of its own at the end. */
 class RedrawCounter {
 public:
     explicit RedrawCounter(const SoQtGeneralViewerFrame& frame)
-        : root(frame.getSceneRoot())
+        : RedrawCounter(*frame.getSceneRoot()) {}
+    explicit RedrawCounter(SoGroup& partOfScene)
+        : part(&partOfScene)
         , node(new SoCallback) {
         node->setCallback(countDrawing, this);
-        root->addChild(node.get());
+        part->addChild(node.get());
         settle();
         count = 0;
     }
-    ~RedrawCounter() { root->removeChild(node.get()); }
+    ~RedrawCounter() { part->removeChild(node.get()); }
     RedrawCounter(const RedrawCounter&) = delete;
     RedrawCounter& operator=(const RedrawCounter&) = delete;
 
@@ -56,7 +58,7 @@ private:
         }
     }
 
-    NodePointer<SoSeparator> root;
+    NodePointer<SoGroup> part;
     NodePointer<SoCallback> node;
     int count = 0;
 };

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tests/support/RedrawCounter.h"
+#include "tests/support/SceneReader.h"
+#include "tests/support/ViewDriver.h"
+#include "viewer/SoQtGeneralViewer.h"
+
+/** Compares what a frame shows with what it shows when every frame is drawn wholly. */
+class KeptPictures {
+public:
+    explicit KeptPictures(SoQtGeneralViewerFrame& comparedFrame)
+        : frame(&comparedFrame)
+        , surfaces(SceneReader::drawStyleBranch(*comparedFrame.getSceneRoot())) {}
+
+    /** What the screen shows when nothing is pending any more; not drawn anew. */
+    QImage settled() {
+        RedrawCounter::settle();
+        return ViewDriver(*frame).grab();
+    }
+
+    /** What the screen shows after one more frame. */
+    QImage shown() {
+        frame->getViewer()->render();
+        return settled();
+    }
+
+    /** What the screen shows after a frame that is drawn wholly. */
+    QImage wholly() {
+        frame->getViewer()->setKeepsPictures(false);
+        QImage picture = shown();
+        frame->getViewer()->setKeepsPictures(true);
+        surfaces.take();
+        return picture;
+    }
+
+    /** How often the surface has been drawn since it was last asked, or drawn wholly. */
+    int drawnSurfaces() { return surfaces.take(); }
+
+private:
+    SoQtGeneralViewerFrame* frame;
+    RedrawCounter surfaces;
+};
