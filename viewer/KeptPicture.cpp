@@ -66,6 +66,9 @@ bool KeptPicture::prepare(QSize size) {
     const bool isAlike = boundFormat() == windowFormat;
     isMirrored = heightOfFirstSample() != heightInWindow;
     room->release();
+    if (!isAlike) {
+        drop();
+    }
     return isAlike;
 }
 

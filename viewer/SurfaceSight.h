@@ -31,7 +31,7 @@ public:
     /** The size of the window that is drawn into, in pixels. */
     const SbVec2s& windowSize() const { return window; }
 
-public:
+private:
     void addElderBrothers(const SoNode& parent, const SoNode* child);
 
     /** Of the part and of what sets its look; a node's number changes with its contents. */
