@@ -152,7 +152,7 @@ TEST_F(BatchPictureTest, FittedViewSeesAllOfALargerScene) {
 
 TEST_F(BatchPictureTest, NoFolderIsMadeForADriverWithoutAHome) {
     QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("XDG_CACHE_HOME", "");
+    environment.remove("XDG_CACHE_HOME");
     environment.insert("HOME", "");
     const BatchProgram ended = BatchProgram::run(
         {"--size", "1x1", "--dpi", "20", "--image", "U=u.png"}, folder.path(), environment);
