@@ -52,7 +52,7 @@ fs::path folderIn(const char* variable) {
 /** The folder that Mesa keeps shaders in from one start to the next; empty when nothing names one.
  */
 fs::path cacheFolder() {
-    if (const fs::path cache = folderIn("XDG_CACHE_HOME"); !cache.empty()) {
+    if (fs::path cache = folderIn("XDG_CACHE_HOME"); !cache.empty()) {
         return cache;
     }
     const fs::path home = folderIn("HOME");

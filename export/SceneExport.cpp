@@ -66,7 +66,7 @@ Groups groupsNowhere(SoNode& scene) {
  */
 NodePointer<SoNode> partSomewhere(SoNode& scene) {
     if (groupsNowhere(scene).empty()) {
-        return NodePointer<SoNode>(&scene);
+        return {&scene};
     }
     NodePointer<SoNode> copy(scene.copy());
     for (const NodePointer<SoGroup>& group : groupsNowhere(*copy)) {
