@@ -57,7 +57,7 @@ TEST(FileTargets, LinksAreWaysToTheFileBehindThem) {
     namespace fs = std::filesystem;
     const QTemporaryDir temporary;
     const fs::path folder = temporary.path().toStdString();
-    std::ofstream(folder / "there.txt");
+    std::ofstream(folder / "there.txt") << "there";
     fs::create_directory(folder / "deep");
     fs::create_directory(folder / "deep" / "folder");
     fs::create_symlink("there.txt", folder / "link.txt");
