@@ -43,14 +43,20 @@ void silenceGlx() {
     }
 }
 
+/** The folder that a variable names; an empty variable names none. */
+fs::path folderIn(const char* variable) {
+    const char* const name = std::getenv(variable);
+    return name == nullptr ? "" : name;
+}
+
 /** The folder that Mesa keeps shaders in from one start to the next; empty when nothing names one.
  */
 fs::path cacheFolder() {
-    if (const char* cache = std::getenv("XDG_CACHE_HOME")) {
+    if (fs::path cache = folderIn("XDG_CACHE_HOME"); !cache.empty()) {
         return cache;
     }
-    const char* home = std::getenv("HOME");
-    return home == nullptr ? fs::path() : fs::path(home) / ".cache";
+    const fs::path home = folderIn("HOME");
+    return home.empty() ? home : home / ".cache";
 }
 
 /** Mesa complains where it cannot keep shaders, and draws all the same. */
