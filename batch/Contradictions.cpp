@@ -4,6 +4,7 @@
 #include "batch/FileName.h"
 #include "batch/FileTargets.h"
 #include "batch/OutputFormat.h"
+#include "batch/Targets.h"
 
 #include <algorithm>
 #include <limits>
@@ -62,7 +63,8 @@ void checkTargets(const BatchOptions& options) {
             "Nothing is to be made: give --text, --image or --scene (--help tells more)");
     std::set<std::string> names;
     for (const Output& output : options.outputs) {
-        const std::string name = OutputFormat::isStandardOutput(output) ? "-" : output.file;
+        const std::string name =
+            OutputFormat::isStandardOutput(output) ? Targets::standardOutput : output.file;
         require(names.insert(name).second, name + " is to be written twice");
     }
 }

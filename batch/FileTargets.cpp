@@ -2,6 +2,7 @@
 
 #include "batch/FileName.h"
 #include "batch/OutputFormat.h"
+#include "batch/Targets.h"
 #include "export/WholeFile.h"
 
 #include <filesystem>
@@ -24,7 +25,7 @@ public:
     /** One text for each file. */
     std::string of(const Output& output, const std::string& name) {
         if (OutputFormat::isStandardOutput(output)) {
-            return "-";
+            return Targets::standardOutput;
         }
         std::error_code error;
         const fs::path named = fs::absolute(name, error);

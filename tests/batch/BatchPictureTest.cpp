@@ -170,8 +170,7 @@ TEST_F(BatchPictureTest, LooksDiffer) {
 }
 
 TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png", "--text", "U=u.txt", "--image", "X=x.png"},
                           folder.path(), environment);
@@ -185,8 +184,7 @@ TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade
 }
 
 TEST_F(BatchPictureTest, PicturesOfASweepThatThereIsNoOpenGlForAreCounted) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     const BatchProgram ended =
         BatchProgram::run({"--grid", "9x9", "--sweep", "K1=1:2:3", "--image", "U={K1}.png"},
                           folder.path(), environment);
@@ -198,8 +196,7 @@ TEST_F(BatchPictureTest, PicturesOfASweepThatThereIsNoOpenGlForAreCounted) {
 }
 
 TEST_F(BatchPictureTest, DisplayThatCannotBeReachedIsToldByItsName) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     environment.insert("DISPLAY", ":9876");
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
@@ -215,8 +212,7 @@ TEST_F(BatchPictureTest, DisplayWithoutOpenGlIsNotTaken) {
     server.start("Xvfb", {"-displayfd", "1", "-extension", "GLX"});
     ASSERT_TRUE(server.waitForReadyRead());
     const QString display = ":" + QString(server.readLine()).trimmed();
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     environment.insert("DISPLAY", display);
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
