@@ -10,15 +10,16 @@
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 /** The turn from a camera's own axes, of which it looks along the negative third. */
 SbRotation orientationOf(const Viewpoint& viewpoint) {
-    SbVec3f back = -viewpoint.direction;
+    SbVec3f back = -Camera::scaled(viewpoint.direction);
     back.normalize();
-    SbVec3f right = viewpoint.up.cross(back);
+    SbVec3f right = Camera::scaled(viewpoint.up).cross(back);
     right.normalize();
     const SbVec3f up = back.cross(right);
     const SbMatrix axes(right[0], right[1], right[2], 0, up[0], up[1], up[2], 0, back[0], back[1],
@@ -55,6 +56,15 @@ NodePointer<SoCamera> perspectiveOf(const SoOrthographicCamera& seen) {
 }
 
 } // namespace
+
+SbVec3f Camera::scaled(const SbVec3f& vector) {
+    const float largest =
+        std::max({std::fabs(vector[0]), std::fabs(vector[1]), std::fabs(vector[2])});
+    int exponent = 0;
+    std::frexp(largest, &exponent);
+    return {std::ldexp(vector[0], -exponent), std::ldexp(vector[1], -exponent),
+            std::ldexp(vector[2], -exponent)};
+}
 
 NodePointer<SoCamera> Camera::of(Document document, const BatchOptions& options, SoNode& scene) {
     const Viewpoint& viewpoint = options.viewpoint;

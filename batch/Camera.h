@@ -19,4 +19,10 @@ namespace Camera {
  */
 NodePointer<SoCamera> of(Document document, const BatchOptions& options, SoNode& scene);
 
+/**
+ * A vector of the same direction whose length can be computed, its largest coordinate 0.5 to 1 in
+ * size: times a power of 2, so that it has the same digits. The vector 0 stays.
+ */
+SbVec3f scaled(const SbVec3f& vector);
+
 } // namespace Camera

@@ -1,8 +1,10 @@
 #include "batch/Contradictions.h"
 
+#include "batch/Camera.h"
 #include "batch/FileName.h"
 #include "batch/FileTargets.h"
 #include "batch/OutputFormat.h"
+#include "batch/Targets.h"
 
 #include <algorithm>
 #include <limits>
@@ -61,7 +63,8 @@ void checkTargets(const BatchOptions& options) {
             "Nothing is to be made: give --text, --image or --scene (--help tells more)");
     std::set<std::string> names;
     for (const Output& output : options.outputs) {
-        const std::string name = OutputFormat::isStandardOutput(output) ? "-" : output.file;
+        const std::string name =
+            OutputFormat::isStandardOutput(output) ? Targets::standardOutput : output.file;
         require(names.insert(name).second, name + " is to be written twice");
     }
 }
@@ -75,8 +78,8 @@ void checkLines(const BatchOptions& options) {
 }
 
 void checkViewpoint(const Viewpoint& viewpoint) {
-    SbVec3f direction = viewpoint.direction;
-    SbVec3f up = viewpoint.up;
+    SbVec3f direction = Camera::scaled(viewpoint.direction);
+    SbVec3f up = Camera::scaled(viewpoint.up);
     constexpr float leastSine = 1e-5F;
     require(direction.normalize() > 0 && up.normalize() > 0,
             "A direction of the camera has the length 0");
@@ -90,6 +93,11 @@ void checkPaper(const Paper& paper) {
     require(paper.dots(longer) <= largest,
             "A picture is " + std::to_string(largest) + " dots wide and high at most");
     require(paper.dots(shorter) >= 1, "A picture is a dot wide and high at least");
+    // The scene library counts the bytes of a picture in an int.
+    constexpr int bytesOfDot = 3;
+    constexpr int most = std::numeric_limits<int>::max() / bytesOfDot;
+    require(paper.dots(paper.width) * paper.dots(paper.height) <= most,
+            "A picture has " + std::to_string(most) + " dots at most");
 }
 
 } // namespace

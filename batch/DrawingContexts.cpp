@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <string>
 #include <string_view>
 #include <unistd.h>
 
@@ -43,14 +44,20 @@ void silenceGlx() {
     }
 }
 
+/** What a variable of the environment says; nothing where it is not set. */
+std::string variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
 /** The folder that Mesa keeps shaders in from one start to the next; empty when nothing names one.
  */
 fs::path cacheFolder() {
-    if (const char* cache = std::getenv("XDG_CACHE_HOME")) {
+    if (fs::path cache = variable("XDG_CACHE_HOME"); !cache.empty()) {
         return cache;
     }
-    const char* home = std::getenv("HOME");
-    return home == nullptr ? fs::path() : fs::path(home) / ".cache";
+    const fs::path home = variable("HOME");
+    return home.empty() ? home : home / ".cache";
 }
 
 /** Mesa complains where it cannot keep shaders, and draws all the same. */
@@ -131,11 +138,11 @@ std::string DrawingContexts::open() {
 }
 
 std::string DrawingContexts::openDisplay() {
-    const char* const named = std::getenv("DISPLAY");
-    if (named == nullptr || *named == '\0') {
+    const std::string named = variable("DISPLAY");
+    if (named.empty()) {
         return "DISPLAY names none";
     }
-    const std::string display = std::string("the display ") + named;
+    const std::string display = "the display " + named;
     if (!isDisplayThere()) {
         return display + " cannot be reached";
     }

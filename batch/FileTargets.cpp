@@ -2,6 +2,8 @@
 
 #include "batch/FileName.h"
 #include "batch/OutputFormat.h"
+#include "batch/Targets.h"
+#include "export/WholeFile.h"
 
 #include <filesystem>
 #include <stdexcept>
@@ -17,10 +19,37 @@ struct Writer {
     const HyperboloidParameters* set;
 };
 
-/** One text for each file, however it is named. */
-std::string identityOf(const Output& output, const std::string& name, const fs::path& folder) {
-    return OutputFormat::isStandardOutput(output) ? "-" : (folder / name).lexically_normal();
-}
+/** Tells files apart, however they are named. */
+class Identities {
+public:
+    /** One text for each file. */
+    std::string of(const Output& output, const std::string& name) {
+        if (OutputFormat::isStandardOutput(output)) {
+            return Targets::standardOutput;
+        }
+        std::error_code error;
+        const fs::path named = fs::absolute(name, error);
+        const fs::path meant = WholeFile::behindLinks(named, error);
+        const fs::path& file = error ? named : meant;
+        return folderOf(file) / file.filename();
+    }
+
+private:
+    /** Follows the links to a folder once for all files in it. */
+    const fs::path& folderOf(const fs::path& file) {
+        const auto [folder, isNew] = folders.try_emplace(file.parent_path());
+        if (isNew) {
+            std::error_code error;
+            folder->second = fs::weakly_canonical(file.parent_path(), error);
+            if (error) {
+                folder->second = file.parent_path().lexically_normal();
+            }
+        }
+        return folder->second;
+    }
+
+    std::unordered_map<std::string, fs::path> folders;
+};
 
 /** For example "{K13}.txt for K13 = 0.5". */
 std::string text(const Writer& writer, const std::vector<Sweep>& sweeps) {
@@ -32,14 +61,13 @@ std::string text(const Writer& writer, const std::vector<Sweep>& sweeps) {
 
 void FileTargets::refuseShared(const BatchOptions& options) {
     const std::vector<HyperboloidParameters> sets = setsOf(options.parameters, options.sweeps);
-    std::error_code noFolder;
-    const fs::path folder = fs::current_path(noFolder);
+    Identities identities;
     std::unordered_map<std::string, Writer> writers;
     for (const HyperboloidParameters& set : sets) {
         for (const Output& output : options.outputs) {
             const std::string name = FileName::of(output.file, set);
             const Writer writer{&output, &set};
-            const auto [first, isNew] = writers.emplace(identityOf(output, name, folder), writer);
+            const auto [first, isNew] = writers.emplace(identities.of(output, name), writer);
             if (!isNew) {
                 throw std::invalid_argument(name + " is to be written twice: by " +
                                             text(first->second, options.sweeps) + " and by " +

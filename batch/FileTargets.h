@@ -8,7 +8,7 @@ namespace FileTargets {
 /**
  * Throws std::invalid_argument, naming both, when two outputs lead to one file: names of different
  * sets that become the same with their values, or different ways to a file, such as "a.txt" and
- * "./a.txt". Links are not followed.
+ * "./a.txt" or a link to it.
  */
 void refuseShared(const BatchOptions& options);
 

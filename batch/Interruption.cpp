@@ -16,7 +16,7 @@ Interruption::Interruption()
     struct sigaction noting {};
     noting.sa_handler = note;
     // The second signal ends the program; what is being written when the first comes goes on.
-    noting.sa_flags = SA_RESETHAND | SA_RESTART;
+    noting.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
     for (Handler& handler : handlers) {
         sigaction(handler.signal, nullptr, &handler.previous);
         if (handler.previous.sa_handler != SIG_IGN) {

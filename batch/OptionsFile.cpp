@@ -6,11 +6,16 @@
 
 #include <algorithm>
 #include <istream>
+#include <set>
 #include <sstream>
 
 namespace {
 
 using Items = std::vector<CLI::ConfigItem>;
+
+bool isAtWordStart(const std::string& line, std::size_t place) {
+    return place == 0 || line[place - 1] == ' ' || line[place - 1] == '\t';
+}
 
 std::string withoutComment(std::string line) {
     char quote = '\0';
@@ -20,7 +25,7 @@ std::string withoutComment(std::string line) {
             quote = letter == quote ? '\0' : quote;
         } else if (letter == '"' || letter == '\'') {
             quote = letter;
-        } else if (letter == '#') {
+        } else if (letter == '#' || (letter == ';' && isAtWordStart(line, i))) {
             line.erase(i);
         }
     }
@@ -33,11 +38,21 @@ bool beginsArray(const std::string& line) {
     return line.find('=') != std::string::npos && value.rfind('[', 0) == 0 && value.back() != ']';
 }
 
+/** Some editors put one at the beginning of every file. */
+void skipByteOrderMark(std::istream& input) {
+    for (const char letter : {'\xEF', '\xBB', '\xBF'}) {
+        if (input.peek() == std::istream::traits_type::to_int_type(letter)) {
+            input.get();
+        }
+    }
+}
+
 /**
  * The text of a file without comments, and with every array in one line. The library takes a # in
  * quotes for a comment, and the first line of an array for all of it.
  */
 std::stringstream prepared(std::istream& input) {
+    skipByteOrderMark(input);
     std::stringstream text;
     bool isInArray = false;
     for (std::string line; std::getline(input, line);) {
@@ -48,12 +63,25 @@ std::stringstream prepared(std::istream& input) {
     return text;
 }
 
+/** The library would take the values of a key that stands twice for those of an array. */
+void refuseKeysThatStandTwice(std::istream&& text) {
+    std::set<std::string> keys;
+    for (std::string line; std::getline(text, line);) {
+        std::string key = CLI::detail::trim_copy(line.substr(0, line.find('=')));
+        CLI::detail::remove_quotes(key);
+        if (!key.empty() && !keys.insert(key).second) {
+            throw CLI::ConfigError(key + " stands twice in the file");
+        }
+    }
+}
+
 /** The options of a file as they stand there. */
 Items read(std::istream& input) {
     CLI::ConfigTOML reader;
     // None are left to look for.
     reader.comment('\0');
     std::stringstream text = prepared(input);
+    refuseKeysThatStandTwice(std::istringstream(text.str()));
     return reader.from_config(text);
 }
 

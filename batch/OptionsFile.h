@@ -11,8 +11,8 @@
  *
  * What the command line says wins: over the same option, and over those that say the same in
  * another way, such as a grid over columns or a sweep over a value. An option that is given once
- * may have an array for its value, vertex = [3, 4] say. Sections are refused. A comment begins with
- * a # that is in no quotes.
+ * may have an array for its value, vertex = [3, 4] say. Sections are refused, and so is a key that
+ * stands twice. A comment begins with a # that is in no quotes, or with a ; after a space.
  */
 class OptionsFile : public CLI::ConfigTOML {
 public:

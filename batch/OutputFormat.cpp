@@ -1,5 +1,7 @@
 #include "batch/OutputFormat.h"
 
+#include "batch/Targets.h"
+
 #include <array>
 #include <filesystem>
 #include <stdexcept>
@@ -19,7 +21,7 @@ constexpr Endings sceneEndings{{{".iv", Format::openInventor}, {".wrl", Format::
 } // namespace
 
 bool OutputFormat::isStandardOutput(const Output& output) {
-    return output.file == "-" || output.file.rfind("-.", 0) == 0;
+    return output.file == Targets::standardOutput || output.file.rfind("-.", 0) == 0;
 }
 
 Format OutputFormat::of(const Output& output) {
@@ -27,7 +29,7 @@ Format OutputFormat::of(const Output& output) {
         return Format::text;
     }
     const Endings& endings = output.kind == Output::Kind::image ? imageEndings : sceneEndings;
-    if (output.file == "-") {
+    if (output.file == Targets::standardOutput) {
         return endings.front().format;
     }
     const std::string ending =

@@ -5,10 +5,11 @@
 #include <string>
 
 /**
- * One line on the terminal that is written over and over. Where standard error is no terminal, or
- * there is only one thing to do, nothing is shown.
+ * One line on the terminal that is written over and over, cut to the terminal's width. Where
+ * standard error is no terminal, or there is only one thing to do, nothing is shown.
  *
- * As long as it lives, whatever is said on std::cerr takes the line's place.
+ * As long as it lives, the first words on std::cerr about one of several things, on a terminal or
+ * not, stand under the whole line that says which.
  */
 class ProgressLine : private std::streambuf {
 public:
@@ -22,7 +23,10 @@ public:
     void show(std::size_t number, const std::string& what);
 
 private:
-    void clear();
+    void erase();
+    /** Gives the line's place to words. */
+    void makeRoom();
+    void put(const std::string& text);
 
     // What is said on std::cerr comes here.
     int_type overflow(int_type letter) override;
@@ -32,5 +36,7 @@ private:
     std::size_t count;
     bool isTerminal;
     bool isShown = false;
+    /** The line of the thing that is being done, as long as there are no words about it. */
+    std::string untold;
     std::streambuf* terminal;
 };

@@ -23,12 +23,15 @@ std::vector<double> spread(double start, double stop, int count) {
     constexpr int digits = 12;
     constexpr double roundingError = 1e-12;
     const double largest = std::max(std::fabs(start), std::fabs(stop));
-    std::vector<double> values;
-    for (int i = 0; i < count; ++i) {
-        const double share = count == 1 ? 0 : static_cast<double>(i) / (count - 1);
+    std::vector<double> values{start};
+    for (int i = 1; i < count - 1; ++i) {
+        const double share = static_cast<double>(i) / (count - 1);
         const double value = start + (stop - start) * share;
         const bool isZero = std::fabs(value) < roundingError * largest;
         values.push_back(isZero ? 0 : Numbers::rounded(value, digits));
+    }
+    if (count > 1) {
+        values.push_back(stop);
     }
     return values;
 }

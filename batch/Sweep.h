@@ -15,8 +15,8 @@ struct Sweep {
     std::vector<double> values;
 
     /**
-     * Reads NAME=START:STOP:COUNT, COUNT values at equal distances from START to STOP. A value is
-     * the number that its text shows: twelve significant digits at most.
+     * Reads NAME=START:STOP:COUNT, COUNT values at equal distances from START to STOP. A value
+     * between them has twelve significant digits at most.
      *
      * Throws std::invalid_argument, saying what is wrong, for a text of another form, an unknown
      * name, a value that is not admitted or comes twice.

@@ -2,8 +2,14 @@
 
 _torvane_batch() {
     local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-    local words=""
+    local program=${COMP_WORDS[0]/#\~\//$HOME/} words="" is_value=""
     COMPREPLY=()
+    # The shell takes a sign of equality for a word of its own.
+    if [[ $current == "=" ]]; then
+        current="" is_value=yes
+    elif [[ $before == "=" ]]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]} is_value=yes
+    fi
     case $before in
     --look) words="lit plain lines" ;;
     --camera) words="orthographic perspective" ;;
@@ -11,19 +17,14 @@ _torvane_batch() {
         compopt -o nospace 2>/dev/null
         words="U= X= M= helix="
         ;;
-    # The shell takes a sign of equality for a word of its own.
-    = | --config | --write-config)
+    U | X | M | helix | --config | --write-config)
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;
-    *) words=$("${COMP_WORDS[0]}" --help 2>/dev/null | grep -oE '^  (-h,)?--[A-Za-z0-9-]+' |
+    *) [[ $is_value ]] || words=$("$program" --help 2>/dev/null | grep -oE '^  (-h,)?--[A-Za-z0-9-]+' |
         sed 's/^  \(-h,\)\{0,1\}//') ;;
     esac
-    if [[ $current == "=" ]]; then
-        mapfile -t COMPREPLY < <(compgen -f)
-        return
-    fi
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
 }
 complete -F _torvane_batch torvane-batch

@@ -14,8 +14,8 @@ struct Line {
 
 std::string boundingBox(const SbVec2s& pixels, int dotsPerInch) {
     const auto points = [&](int count) {
-        const int rest = count * pointsPerInch % dotsPerInch;
-        return std::to_string(count * pointsPerInch / dotsPerInch + (rest > 0 ? 1 : 0));
+        // Rounded up.
+        return std::to_string((count * pointsPerInch + dotsPerInch - 1) / dotsPerInch);
     };
     return "%%BoundingBox: 0 0 " + points(pixels[0]) + " " + points(pixels[1]);
 }

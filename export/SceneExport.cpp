@@ -35,24 +35,44 @@ bool isSomewhere(const SoTransform& place) {
     return isFinite(place.translation.getValue()) && isFinite(axis) && std::isfinite(angle);
 }
 
-/** Empties the groups that a node of a type makes lie nowhere. */
+using Groups = std::vector<NodePointer<SoGroup>>;
+
+/** Adds the groups that a node of a type makes lie nowhere. */
 template <typename Node>
-void emptyWhatIsNowhere(SoNode& scene) {
+void addNowhere(Groups& groups, SoNode& scene) {
     SoSearchAction search;
     search.setType(Node::getClassTypeId());
     search.setInterest(SoSearchAction::ALL);
     search.apply(&scene);
     const SoPathList& paths = search.getPaths();
-    std::vector<NodePointer<SoGroup>> parts;
     for (int i = 0; i < paths.getLength(); ++i) {
         const SoPath& path = *paths[i];
         if (!isSomewhere(*static_cast<const Node*>(path.getTail()))) {
-            parts.emplace_back(static_cast<SoGroup*>(path.getNodeFromTail(1)));
+            groups.emplace_back(static_cast<SoGroup*>(path.getNodeFromTail(1)));
         }
     }
-    for (const NodePointer<SoGroup>& part : parts) {
-        part->removeAllChildren();
+}
+
+Groups groupsNowhere(SoNode& scene) {
+    Groups groups;
+    addNowhere<SoCoordinate3>(groups, scene);
+    addNowhere<SoTransform>(groups, scene);
+    return groups;
+}
+
+/**
+ * The scene itself where all of it is somewhere, or else a copy of what is; the library writes a
+ * copy with more fields than its original.
+ */
+NodePointer<SoNode> partSomewhere(SoNode& scene) {
+    if (groupsNowhere(scene).empty()) {
+        return {&scene};
     }
+    NodePointer<SoNode> copy(scene.copy());
+    for (const NodePointer<SoGroup>& group : groupsNowhere(*copy)) {
+        group->removeAllChildren();
+    }
+    return copy;
 }
 
 } // namespace
@@ -60,15 +80,13 @@ void emptyWhatIsNowhere(SoNode& scene) {
 void SceneExport::write(SoNode& scene, Format format, std::FILE* file) {
     SoOutput output;
     output.setFilePointer(file);
+    const NodePointer<SoNode> written = partSomewhere(scene);
     if (format == Format::openInventor) {
-        writeNodes(scene, output);
+        writeNodes(*written, output);
         return;
     }
     SoToVRML2Action conversion;
-    const NodePointer<SoNode> copy(scene.copy());
-    emptyWhatIsNowhere<SoCoordinate3>(*copy);
-    emptyWhatIsNowhere<SoTransform>(*copy);
-    conversion.apply(copy.get());
+    conversion.apply(written.get());
     const NodePointer<SoVRMLGroup> converted(conversion.getVRML2SceneGraph());
     output.setHeaderString("#VRML V2.0 utf8");
     writeNodes(*converted, output);

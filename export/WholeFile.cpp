@@ -17,12 +17,18 @@ bool isNoFile(const fs::path& path) {
     return fs::exists(path, error) && !fs::is_regular_file(path, error);
 }
 
-/**
- * The file that is meant by a name, which may not be there yet.
- *
- * @param error why there is none: the links lead nowhere, or there is no name
- */
-fs::path behindLinks(fs::path path, std::error_code& error) {
+/** Some file systems notice only now that they are full; pipes and devices know no such thing. */
+bool reachesTheDisk(int handle) {
+    int result = 0;
+    do {
+        result = fsync(handle);
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
+}
+
+} // namespace
+
+fs::path WholeFile::behindLinks(fs::path path, std::error_code& error) {
     for (int i = 0; fs::is_symlink(path, error); ++i) {
         if (i == mostLinks) {
             error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
@@ -40,17 +46,6 @@ fs::path behindLinks(fs::path path, std::error_code& error) {
                          : std::error_code();
     return path;
 }
-
-/** Some file systems notice only now that they are full; pipes and devices know no such thing. */
-bool reachesTheDisk(int handle) {
-    int result = 0;
-    do {
-        result = fsync(handle);
-    } while (result != 0 && errno == EINTR);
-    return result == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
-}
-
-} // namespace
 
 WholeFile::WholeFile(const QString& fileName)
     : direct(fileName) {

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <filesystem>
+#include <system_error>
 
 /**
  * A file that comes into being whole or not at all: what is written goes beside it first, and an
@@ -13,6 +14,13 @@
  */
 class WholeFile : public ByteTarget {
 public:
+    /**
+     * The file that is meant by a name, which may not be there yet: the one behind all links.
+     *
+     * @param error why there is none: the links lead nowhere, or there is no name
+     */
+    static std::filesystem::path behindLinks(std::filesystem::path path, std::error_code& error);
+
     /** Opens a file for writing. */
     explicit WholeFile(const QString& fileName);
 

@@ -14,8 +14,8 @@ test_packages=(
     valgrind time make parallel python3-clang libclang-common-14-dev)
 check_packages=(clang clang-format clang-tidy shellcheck black git)
 coverage_packages=(gcovr)
-package_packages=(desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
-document_packages=(imagemagick parallel dpkg-dev xvfb xauth)
+package_packages=(file desktop-file-utils appstream librsvg2-bin man-db lintian dpkg-dev)
+document_packages=(file imagemagick parallel dpkg-dev xvfb xauth)
 mutation_packages=(ccache git)
 
 # Without -noreset the server starts anew whenever its last client leaves, and a program that starts

@@ -8,6 +8,7 @@
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
@@ -139,11 +140,19 @@ void useEveryView(const OpenedWindow& opened) {
 
 } // namespace
 
-class DegenerateParameters : public testing::TestWithParam<Degenerate> {};
+/** All of them come and go in one window: opening one costs more than what is looked at. */
+class DegenerateParameters : public testing::TestWithParam<Degenerate> {
+protected:
+    static void SetUpTestSuite() { shared = std::make_unique<OpenedWindow>(); }
+    static void TearDownTestSuite() { shared.reset(); }
 
-// Several promises share a window: opening one costs more than what is looked at.
+    const OpenedWindow& opened = *shared;
+
+private:
+    static inline std::unique_ptr<const OpenedWindow> shared;
+};
+
 TEST_P(DegenerateParameters, ViewsAreUsableWhileTheyLastAndPicksWorkAgainAfterwards) {
-    const OpenedWindow opened;
     HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
     opened.tie(opened.firstHelix(), x);
     apply(opened, GetParam());
@@ -166,7 +175,6 @@ TEST_P(DegenerateParameters, ViewsAreUsableWhileTheyLastAndPicksWorkAgainAfterwa
 }
 
 TEST_P(DegenerateParameters, ValidValuesBringBackThePicturesOfBefore) {
-    const OpenedWindow opened;
     for (const int transparency : {0, 60}) {
         SCOPED_TRACE(transparency);
         opened.call("refreshHyperboloidTransp", Q_ARG(int, transparency));

@@ -181,7 +181,7 @@ TEST(ParameterDialogTest, BrokenOrderShowsItsPictureAndTheModelsValuesAgain) {
 }
 
 TEST(ParameterDialogTest, RefusedRetriesLeaveNothingBehind) {
-    constexpr int retries = 50;
+    constexpr int retries = 12;
     const OpenedWindow opened;
     std::vector<DialogDriver::Step> steps;
     int topLevels = 0;

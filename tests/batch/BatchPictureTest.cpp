@@ -1,5 +1,6 @@
 #include "tests/batch/BatchProgram.h"
 
+#include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTransform>
@@ -30,6 +31,17 @@ protected:
             }
         }
         return colors.size();
+    }
+
+    /** The smallest box around all that is not black. */
+    static QRect coveredBox(const QImage& image) {
+        QRect box;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                box = image.pixel(x, y) != qRgb(0, 0, 0) ? box.united({x, y, 1, 1}) : box;
+            }
+        }
+        return box;
     }
 
     /** The share of pixels that are not black. */
@@ -120,6 +132,8 @@ TEST_F(BatchPictureTest, WhatIsUpTurnsThePicture) {
 TEST_F(BatchPictureTest, LengthsOfDirectionsDoNotMatter) {
     EXPECT_EQ(picture("U", {"--direction", "-0.5,-0.25,-1", "--up", "0,3,0"}),
               picture("U", {"--direction", "-2,-1,-4", "--up", "0,1,0"}));
+    EXPECT_EQ(picture("U", {"--direction", "0,0.75e30,-1.5e30", "--up", "0,3e38,0"}),
+              picture("U", {"--direction", "0,0.5,-1"}));
 }
 
 TEST_F(BatchPictureTest, FittedViewSeesAllOfALargerScene) {
@@ -129,6 +143,22 @@ TEST_F(BatchPictureTest, FittedViewSeesAllOfALargerScene) {
     for (int x = 0; x < fitted.width(); ++x) {
         EXPECT_EQ(fitted.pixel(x, 0), qRgb(0, 0, 0));
     }
+    const QRect covered = coveredBox(fitted);
+    const QRect inner = fitted.rect().adjusted(1, 1, -1, -1);
+    EXPECT_TRUE(inner.contains(covered)) << "all four edges are black";
+    EXPECT_GT(covered.height(), 0.8 * fitted.height()) << "it is not smaller than it need be";
+    EXPECT_GT(coveredShare(fitted), 0.01);
+}
+
+TEST_F(BatchPictureTest, NoFolderIsMadeForADriverWithoutAHome) {
+    QProcessEnvironment environment = BatchProgram::bareEnvironment();
+    environment.remove("XDG_CACHE_HOME");
+    environment.insert("HOME", "");
+    const BatchProgram ended = BatchProgram::run(
+        {"--size", "1x1", "--dpi", "20", "--image", "U=u.png"}, folder.path(), environment);
+    EXPECT_EQ(ended.errors.toStdString(), "");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList("u.png"));
 }
 
 TEST_F(BatchPictureTest, LooksDiffer) {
@@ -140,8 +170,7 @@ TEST_F(BatchPictureTest, LooksDiffer) {
 }
 
 TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png", "--text", "U=u.txt", "--image", "X=x.png"},
                           folder.path(), environment);
@@ -155,8 +184,7 @@ TEST_F(BatchPictureTest, WithoutAnyOpenGlOneLineSaysWhatToInstallAndTextsAreMade
 }
 
 TEST_F(BatchPictureTest, PicturesOfASweepThatThereIsNoOpenGlForAreCounted) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    const QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     const BatchProgram ended =
         BatchProgram::run({"--grid", "9x9", "--sweep", "K1=1:2:3", "--image", "U={K1}.png"},
                           folder.path(), environment);
@@ -168,8 +196,7 @@ TEST_F(BatchPictureTest, PicturesOfASweepThatThereIsNoOpenGlForAreCounted) {
 }
 
 TEST_F(BatchPictureTest, DisplayThatCannotBeReachedIsToldByItsName) {
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     environment.insert("DISPLAY", ":9876");
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
@@ -185,8 +212,7 @@ TEST_F(BatchPictureTest, DisplayWithoutOpenGlIsNotTaken) {
     server.start("Xvfb", {"-displayfd", "1", "-extension", "GLX"});
     ASSERT_TRUE(server.waitForReadyRead());
     const QString display = ":" + QString(server.readLine()).trimmed();
-    QProcessEnvironment environment = BatchProgram::bareEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    QProcessEnvironment environment = BatchProgram::environmentWithoutEgl();
     environment.insert("DISPLAY", display);
     const BatchProgram ended =
         BatchProgram::run({"--image", "U=u.png"}, folder.path(), environment);
@@ -221,9 +247,9 @@ TEST_F(BatchPictureTest, PictureThatThereIsNoMemoryForIsToldAndTheRestIsMade) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer takes more memory than any limit leaves";
 #endif
-    // The pixels alone take 2.7 gigabytes.
+    // The pixels alone take 2 gigabytes.
     const BatchProgram ended = BatchProgram::runInMemory(
-        1500000, {"--size", "100x100", "--dpi", "300", "--image", "X=x.png", "--text", "U=u.txt"},
+        1500000, {"--size", "86x86", "--dpi", "300", "--image", "X=x.png", "--text", "U=u.txt"},
         folder.path());
     EXPECT_EQ(ended.exitCode, 1);
     EXPECT_EQ(ended.errors.toStdString(), "Not made: x.png (there is no memory)\n");

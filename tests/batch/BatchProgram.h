@@ -26,6 +26,13 @@ struct BatchProgram {
         return environment;
     }
 
+    /** The same, or another environment, where no driver can be found without a display. */
+    static QProcessEnvironment
+    environmentWithoutEgl(QProcessEnvironment environment = bareEnvironment()) {
+        environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+        return environment;
+    }
+
     /** Runs it in a folder until it ends. */
     static BatchProgram run(const QStringList& arguments, const QString& folder = {},
                             const QProcessEnvironment& environment = bareEnvironment()) {

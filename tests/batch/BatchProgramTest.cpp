@@ -150,20 +150,3 @@ TEST_F(BatchProgramTest, HelpAndListsThatNobodyGetsAreNoSuccess) {
         EXPECT_EQ(ended.errors, "Standard output cannot be written (No space left on device)\n");
     }
 }
-
-TEST_F(BatchProgramTest, WhatIsNowhereIsLeftOutOfVrml) {
-    // K1 = K2: the surface has no finite point. K13 = 0: a finite surface, lines that are nowhere.
-    const QByteArray nowhere = run({"--K2", "1", "--grid", "9x9", "--scene", "X=-.wrl"}).output;
-    const QByteArray degenerate = run({"--K13", "0", "--grid", "9x9", "--scene", "X=-.wrl"}).output;
-    const QByteArray ordinary = run({"--grid", "9x9", "--scene", "X=-.wrl"}).output;
-    for (const QByteArray& vrml : {nowhere, degenerate, ordinary}) {
-        EXPECT_TRUE(vrml.startsWith("#VRML V2.0 utf8\n"));
-        EXPECT_FALSE(vrml.contains("nan"));
-        EXPECT_FALSE(vrml.contains("inf"));
-    }
-    const auto shapes = [](const QByteArray& vrml) {
-        return vrml.count("IndexedFaceSet");
-    };
-    EXPECT_LT(shapes(nowhere), shapes(degenerate));
-    EXPECT_LT(shapes(degenerate), shapes(ordinary));
-}

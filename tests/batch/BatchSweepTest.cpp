@@ -13,13 +13,13 @@ protected:
         return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
     }
 
-    /** What a call shows on a terminal. */
-    QByteArray onATerminal(const QString& arguments) const {
+    /** What a call shows on a terminal, which a command may prepare. */
+    QByteArray onATerminal(const QString& arguments, const QString& prepare = ":") const {
         QProcess terminal;
         terminal.setProcessEnvironment(BatchProgram::bareEnvironment());
         terminal.setWorkingDirectory(folder.path());
         terminal.start("script", {"--quiet", "--return", "--command",
-                                  QString(TORVANE_BATCH) + " " + arguments, "/dev/null"});
+                                  prepare + "; " + TORVANE_BATCH + " " + arguments, "/dev/null"});
         EXPECT_TRUE(terminal.waitForFinished());
         EXPECT_EQ(terminal.exitCode(), 0);
         return terminal.readAllStandardOutput();
@@ -118,10 +118,25 @@ TEST_F(BatchSweepTest, TerminalShowsHowFarItIs) {
     EXPECT_TRUE(shown.endsWith("3 of 3: K13 = 0.5\r\033[K"));
 }
 
-TEST_F(BatchSweepTest, WordsOfTheModelTakeThePlaceOfTheProgressLine) {
+TEST_F(BatchSweepTest, ProgressLineIsNoLongerThanTheTerminalIsWide) {
+    const QByteArray shown =
+        onATerminal("--grid 9x9 --sweep K13=-0.5:0.5:3 --text U={K13}", "stty cols 11");
+    EXPECT_TRUE(shown.contains("1 of 3: K1\r\033[K2 of 3: K1\r")) << shown.constData();
+    EXPECT_TRUE(shown.contains("\r\033[K2 of 3: K13 = 0\r\n")) << "words stand under all of it";
+}
+
+TEST_F(BatchSweepTest, WordsOfTheModelStandUnderTheProgressLine) {
     const QByteArray shown = onATerminal("--grid 9x9 --sweep K13=-0.5:0.5:3 --text U={K13}");
-    EXPECT_TRUE(shown.contains("2 of 3: K13 = 0\r\033[KError : bd=0 or ac+bd=0\r\n"));
+    EXPECT_TRUE(shown.contains("2 of 3: K13 = 0\r\nError : bd=0 or ac+bd=0\r\n"));
     EXPECT_TRUE(shown.endsWith("Error :  bd=0\r\n3 of 3: K13 = 0.5\r\033[K"));
+}
+
+TEST_F(BatchSweepTest, WordsOfTheModelSayWhichSetTheyAreAboutWithoutATerminal) {
+    const BatchProgram ended = BatchProgram::run(
+        {"--grid", "9x9", "--sweep", "K13=-0.5:0.5:3", "--text", "U={K13}"}, folder.path());
+    const QByteArray ofOneSurface = "Error : bd=0 or ac+bd=0\nError :  bd=0\n";
+    EXPECT_EQ(ended.errors.toStdString(),
+              ("2 of 3: K13 = 0\n" + ofOneSurface.repeated(3)).toStdString());
 }
 
 TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {

@@ -160,8 +160,15 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
                   "A direction of the camera has the length 0");
     expectRefused({"--direction", "0,-2,0", "--text", "U=-"},
                   "What is up in the picture may not be where the camera looks");
+    expectRefused({"--direction", "1e30,0,0", "--up", "-3e38,0,0", "--text", "U=-"},
+                  "What is up in the picture may not be where the camera looks");
+    EXPECT_EQ(taken({"--direction", "1e30,0,0"}).viewpoint.direction, SbVec3f(1e30F, 0, 0));
+    EXPECT_EQ(taken({"--direction", "0,1e-30,0", "--up", "0,0,3e38"}).viewpoint.up[2], 3e38F);
     expectRefused({"--size", "110x5", "--text", "U=-"},
                   "A picture is 32767 dots wide and high at most");
+    expectRefused({"--size", "26755x26755", "--dpi", "1", "--text", "U=-"},
+                  "A picture has 715827882 dots at most");
+    EXPECT_EQ(taken({"--size", "26755x26754", "--dpi", "1"}).paper.width, 26755);
     expectRefused({"--size", "5x0.001", "--text", "U=-"},
                   "A picture is a dot wide and high at least");
     expectRefused({"--list", "--text", "U=a\nb"}, "A name with a line break cannot be listed: a");

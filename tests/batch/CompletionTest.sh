@@ -30,9 +30,20 @@ expect "$(complete_words --u3a)" "--u3axis-range --u3axis-radius"
 expect "$(complete_words --fit --hel)" "--help"
 expect "$(complete_words --look pl)" "plain"
 expect "$(complete_words --image h)" "helix="
+expect "$(complete_words --look = pl)" "plain"
+expect "$(complete_words --look =)" "lit plain lines"
+expect "$(complete_words --camera = per)" "perspective"
+expect "$(complete_words --scene = h)" "helix="
+expect "$(complete_words --K13 = "")" ""
 cd "$source_tree/batch"
 expect "$(complete_words --text U = torvane-batch.b)" "torvane-batch.bash"
+expect "$(complete_words --text = U = torvane-batch.b)" "torvane-batch.bash"
+expect "$(complete_words --config = torvane-batch.b)" "torvane-batch.bash"
 expect "$(complete_words --write-config torvane-batch.b)" "torvane-batch.bash"
+
+# shellcheck disable=SC2088 # the shell hands it over as it was typed
+expect "$(HOME=$(dirname "$program") program="~/${program##*/}" complete_words --u3a)" \
+    "--u3axis-range --u3axis-radius"
 
 manual=$(sed 's/\\-/-/g' "$source_tree/batch/torvane-batch.1")
 for option in $(complete_words --); do

@@ -1,6 +1,8 @@
 #include "batch/FileTargets.h"
 
+#include <QTemporaryDir>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -49,4 +51,29 @@ TEST(FileTargets, StandardOutputIsOneOfThem) {
               "-.0.375 is to be written twice: by -.{K13} for K13 = 0.25 and by -.{K13} for K13 = "
               "0.375");
     EXPECT_EQ(refusalOf({"-", "./-"}), "") << "the second is a file";
+}
+
+TEST(FileTargets, LinksAreWaysToTheFileBehindThem) {
+    namespace fs = std::filesystem;
+    const QTemporaryDir temporary;
+    const fs::path folder = temporary.path().toStdString();
+    std::ofstream(folder / "there.txt") << "there";
+    fs::create_directory(folder / "deep");
+    fs::create_directory(folder / "deep" / "folder");
+    fs::create_symlink("there.txt", folder / "link.txt");
+    fs::create_symlink("../link.txt", folder / "deep" / "second.txt");
+    fs::create_symlink("deep/new.txt", folder / "early.txt");
+    fs::create_directory_symlink("deep/folder", folder / "way");
+    fs::create_symlink("circle", folder / "circle");
+    const auto refused = [&](const char* one, const char* other) {
+        return !refusalOf({folder / one, folder / other}).empty();
+    };
+    EXPECT_TRUE(refused("there.txt", "link.txt"));
+    EXPECT_TRUE(refused("link.txt", "deep/second.txt"));
+    EXPECT_TRUE(refused("early.txt", "deep/new.txt")) << "the file is not there yet";
+    EXPECT_TRUE(refused("way/a.txt", "deep/folder/a.txt"));
+    EXPECT_TRUE(refused("way/../a.txt", "deep/a.txt"));
+    EXPECT_FALSE(refused("way/../a.txt", "a.txt"));
+    EXPECT_FALSE(refused("way/there.txt", "link.txt"));
+    EXPECT_FALSE(refused("circle", "link.txt"));
 }

@@ -127,6 +127,30 @@ TEST_F(OptionsFileTest, CommentsBeginOutsideOfQuotes) {
     EXPECT_EQ(options.outputs[1].file, "b#2.png");
 }
 
+TEST_F(OptionsFileTest, SemicolonBeginsACommentAfterASpace) {
+    const BatchOptions options =
+        taken("K13 = 0.375 ; as before\nvertex = 3,4\t; \"two\"\n"
+              "  ; text = no\ntext = ['U=a;b.txt', \"X=c ; d.txt\"] ; end\n"
+              "scene = X=e;f.iv\n");
+    EXPECT_EQ(options.parameters.K13, 0.375);
+    EXPECT_EQ(std::get<ColumnAndRow>(options.helixPoint).row, 4);
+    ASSERT_EQ(options.outputs.size(), 3U);
+    EXPECT_EQ(options.outputs[0].file, "a;b.txt");
+    EXPECT_EQ(options.outputs[1].file, "c ; d.txt");
+    EXPECT_EQ(options.outputs[2].file, "e;f.iv");
+}
+
+TEST_F(OptionsFileTest, ByteOrderMarkIsNoPartOfTheFirstKey) {
+    EXPECT_EQ(taken("\xEF\xBB\xBFK13 = 0.375\n" + text).parameters.K13, 0.375);
+}
+
+TEST_F(OptionsFileTest, KeyThatStandsTwiceIsRefused) {
+    expectRefused("vertex = 3\nvertex = 4\n" + text, "vertex stands twice in the file");
+    expectRefused("K13 = 0.375\n" + text + "\"K13\"=0.375\n", "K13 stands twice in the file");
+    expectRefused(text + "fit = true\n" + text, "text stands twice in the file");
+    expectRefused("fit\nfit = false\n" + text, "fit stands twice in the file");
+}
+
 TEST_F(OptionsFileTest, SectionsAreRefused) {
     expectRefused("[figure]\nK13 = 0.5\n" + text,
                   "A file of options has no sections such as figure");

@@ -264,8 +264,8 @@ TEST_F(SameAsViewer, AppearanceSetAndHelixToTheLastPixel) {
 }
 
 TEST_F(SameAsViewer, WithoutEglTheDisplayIsUsedAndSaidSo) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("__EGL_VENDOR_LIBRARY_FILENAMES", "/proc/nowhere");
+    QProcessEnvironment environment =
+        BatchProgram::environmentWithoutEgl(QProcessEnvironment::systemEnvironment());
     environment.insert("LC_ALL", "de_DE.UTF-8");
     const QStringList arguments{"--size=2x1", "--look=lines", "--image=U=-"};
     const BatchProgram ended = BatchProgram::run(arguments, {}, environment);

@@ -31,6 +31,16 @@ TEST(Sweep, ValuesAreWhatTheirTextsShow) {
     EXPECT_EQ(Sweep::read("K13=0:0.3:4").values[1], 0.1);
 }
 
+TEST(Sweep, EndsStayAsTheyAreGiven) {
+    EXPECT_EQ(Sweep::read("K13=0.1234567890123456:0.9876543210987654:3").values,
+              (std::vector<double>{0.1234567890123456, 0.555555555056, 0.9876543210987654}));
+    EXPECT_EQ(Sweep::read("K13=0.1234567890123456:9:1").values,
+              std::vector<double>{0.1234567890123456});
+    EXPECT_EQ(refusalOf("K13=0.1234567890123456:0.1234567890123456:2"),
+              "K13=0.1234567890123456:0.1234567890123456:2 takes the value 0.1234567890123456 more "
+              "than once");
+}
+
 TEST(Sweep, WhatIsNoSweepIsRefusedWithTheReason) {
     EXPECT_EQ(refusalOf("K13"), "K13 is not NAME=START:STOP:COUNT");
     EXPECT_EQ(refusalOf("K13=1:2"), "K13=1:2 is not NAME=START:STOP:COUNT");
