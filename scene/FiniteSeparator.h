@@ -12,6 +12,10 @@
  * asks to see everything: nothing is then seen, not even when the points have become finite again.
  * The library also takes every ray for a hit of a triangle that is not finite.
  *
+ * What is only moved into its place, as a sphere is, is bounded in the coordinates of the place:
+ * the box around a scene does not change by roundings when something moves within it, nor do the
+ * camera's clipping planes.
+ *
  * It has no type of its own in the scene library, on purpose: getTypeId() is SoSeparator's.
  */
 class FiniteSeparator : public SoSeparator {

@@ -29,8 +29,7 @@ void DocumentRoot::GLRenderBelowPath(SoGLRenderAction* action) {
     SoState* state = action->getState();
     const int surfaceIndex = surfaceSource ? findChild(surface) : -1;
     // A display list would repeat what one frame has done, kept picture or not.
-    const bool isCompiled = renderCaching.getValue() == ON || SoCacheElement::anyOpen(state);
-    if (surfaceIndex < 0 || isCompiled ||
+    if (surfaceIndex < 0 || SoCacheElement::anyOpen(state) ||
         !surfaceSource(*action, [&] { drawSurface(action, surfaceIndex); })) {
         SoSeparator::GLRenderBelowPath(action);
         return;

@@ -37,6 +37,14 @@ QOpenGLFramebufferObjectFormat roomFormat(const Format& windowFormat) {
     return format;
 }
 
+/** Whether this OpenGL copies framebuffers, and tells where their samples lie. */
+bool hasFunctions() {
+    const QOpenGLContext& context = *QOpenGLContext::currentContext();
+    const bool tellsPlaces = context.format().version() >= qMakePair(3, 2) ||
+                             context.hasExtension("GL_ARB_texture_multisample");
+    return tellsPlaces && QOpenGLFramebufferObject::hasOpenGLFramebufferBlit();
+}
+
 /** How high the first sample of a pixel of the bound framebuffer stands in it, 0 to 1. */
 GLfloat heightOfFirstSample() {
     std::array<GLfloat, 2> place{};
@@ -52,7 +60,7 @@ bool KeptPicture::prepare(QSize size) {
         return true;
     }
     drop();
-    if (!QOpenGLFramebufferObject::hasOpenGLFramebufferBlit() || number(GL_SAMPLES) == 0) {
+    if (!hasFunctions() || number(GL_SAMPLES) == 0) {
         return false;
     }
     const Format windowFormat = boundFormat();

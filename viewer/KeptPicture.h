@@ -39,6 +39,9 @@ public:
     /** Puts it back, in the place of whatever the window holds. */
     void putBack() const;
 
+    /** Whether it has no memory to give back. */
+    bool isEmpty() const { return !room; }
+
     /** Keeps the room only. */
     void forget() { isFilled = false; }
 

@@ -20,12 +20,13 @@ SoQtGeneralViewer::SoQtGeneralViewer(SoQtGeneralViewerFrame* owner, const char* 
     setCameraType(SoOrthographicCamera::getClassTypeId());
     setPopupMenuEnabled(FALSE);
     setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_SAME_AS_STILL);
-    clipping.install(*this);
 }
 
 SoQtGeneralViewer::~SoQtGeneralViewer() {
     if (root != nullptr) {
         root->setSurfaceSource(nullptr, nullptr);
+    }
+    if (!surfacePicture.isEmpty()) {
         glLockNormal();
         surfacePicture.drop();
         glUnlockNormal();

@@ -2,7 +2,6 @@
 
 #include "scene/SceneNodes.h"
 #include "viewer/DocumentRoot.h"
-#include "viewer/SteadyClipping.h"
 #include "viewer/SurfacePicture.h"
 #include "viewer/WindowCover.h"
 #include "viewer/WindowReturn.h"
@@ -89,7 +88,6 @@ private:
     WindowReturn windowReturn;
     WindowCover cover;
     SbVec2s presentedSize{0, 0};
-    SteadyClipping clipping;
     NodePointer<DocumentRoot> root;
     SurfacePicture surfacePicture;
     bool keepsPictures;

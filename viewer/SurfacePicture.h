@@ -31,6 +31,9 @@ public:
     /** Draws the next frame wholly, and the picture is taken anew. */
     void forget();
 
+    /** Whether it has no memory to give back. */
+    bool isEmpty() const { return picture.isEmpty(); }
+
     /** Gives the memory back, in the context that was drawn in. */
     void drop() { picture.drop(); }
 

@@ -2,7 +2,6 @@
 
 #include <Inventor/SoFullPath.h>
 #include <Inventor/actions/SoGLRenderAction.h>
-#include <Inventor/elements/SoModelMatrixElement.h>
 #include <Inventor/elements/SoProjectionMatrixElement.h>
 #include <Inventor/elements/SoViewingMatrixElement.h>
 #include <Inventor/elements/SoViewportRegionElement.h>
@@ -24,7 +23,6 @@ SurfaceSight::SurfaceSight(SoGLRenderAction& action, const SoNode& child) {
     SoState* state = action.getState();
     projection = SoProjectionMatrixElement::get(state);
     viewing = SoViewingMatrixElement::get(state);
-    model = SoModelMatrixElement::get(state);
     const SbViewportRegion& region = SoViewportRegionElement::get(state);
     window = region.getWindowSize();
     origin = region.getViewportOriginPixels();
@@ -47,6 +45,6 @@ void SurfaceSight::addElderBrothers(const SoNode& parent, const SoNode* child) {
 
 bool SurfaceSight::operator==(const SurfaceSight& other) const {
     return nodes == other.nodes && projection == other.projection && viewing == other.viewing &&
-           model == other.model && window == other.window && origin == other.origin &&
-           viewport == other.viewport && background == other.background;
+           window == other.window && origin == other.origin && viewport == other.viewport &&
+           background == other.background;
 }

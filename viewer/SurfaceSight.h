@@ -38,7 +38,6 @@ private:
     std::vector<SbUniqueId> nodes;
     SbMatrix projection = SbMatrix::identity();
     SbMatrix viewing = SbMatrix::identity();
-    SbMatrix model = SbMatrix::identity();
     SbVec2s window{0, 0};
     SbVec2s origin{0, 0};
     SbVec2s viewport{0, 0};

@@ -21,6 +21,7 @@ public:
         opened.showSideBySide();
         LinkedFrames::tie(opened.firstHelix(), u());
         for (HyperboloidFrame* frame : all) {
+            frame->resize(340, 270);
             pictures.push_back(std::make_unique<KeptPictures>(*frame));
         }
     }
@@ -110,7 +111,7 @@ private:
     }
     void resize() {
         HyperboloidFrame& frame = any();
-        frame.resize(dice.between(400, 560), dice.between(300, 450));
+        frame.resize(dice.between(300, 420), dice.between(230, 340));
         QCoreApplication::processEvents();
     }
     void drawElsewhere() {
@@ -138,7 +139,7 @@ private:
 
 TEST(KeptSurface, ShowsTheSameAsASurfaceThatIsAlwaysDrawn) {
     constexpr std::uint32_t seed = 20260814;
-    constexpr int moves = 300;
+    constexpr int moves = 200;
     ComparedFrames compared(seed);
     for (int i = 0; i < moves && !testing::Test::HasFailure(); ++i) {
         SCOPED_TRACE(i);
@@ -148,20 +149,27 @@ TEST(KeptSurface, ShowsTheSameAsASurfaceThatIsAlwaysDrawn) {
     EXPECT_GT(compared.keptPictures(), moves);
 }
 
-TEST(KeptSurface, IsNotDrawnForAStep) {
+class KeptSurfaceIn : public testing::TestWithParam<int> {};
+
+// Also where rounding could move the box around the scene, and with it the camera's planes.
+TEST_P(KeptSurfaceIn, IsNotDrawnForAStep) {
+    constexpr int start = 777;
+    constexpr int steps = 60;
     const LinkedFrames opened;
     opened.showSideBySide();
-    HyperboloidFrame& m = opened.hyperboloid(Hyperboloid::MSPACE);
-    LinkedFrames::tie(opened.firstHelix(), m);
-    m.refresh_hypos(777);
-    opened.firstHelix().refresh(m.getBrother(Hyperboloid::USPACE)->surfaceVertex(777));
-    KeptPictures pictures(m);
+    HyperboloidFrame& frame = opened.hyperboloid(GetParam());
+    LinkedFrames::tie(opened.firstHelix(), frame);
+    frame.refresh_hypos(start);
+    frame.refresh_helix(start);
+    KeptPictures pictures(frame);
     pictures.shown();
     pictures.shown();
     pictures.drawnSurfaces();
-    for (int i = 0; i < 25; ++i) {
-        m.moveSphere(i % 4 == 0 ? HyperboloidFrame::DOWN : HyperboloidFrame::LEFT);
+    for (int i = 0; i < steps; ++i) {
+        frame.moveSphere(i % 4 == 0 ? HyperboloidFrame::DOWN : HyperboloidFrame::LEFT);
         pictures.settled();
         EXPECT_EQ(pictures.drawnSurfaces(), 0) << "step " << i;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(EverySpace, KeptSurfaceIn, testing::Range(0, 3));

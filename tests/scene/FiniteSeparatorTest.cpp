@@ -9,6 +9,7 @@
 #include <Inventor/nodes/SoQuadMesh.h>
 #include <Inventor/nodes/SoSphere.h>
 #include <Inventor/nodes/SoTransform.h>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -67,6 +68,24 @@ TEST(FiniteSeparatorTest, FiniteContentsAreBoundedAndHit) {
     const SoPickedPoint* hit = pickFromAbove(pick, *scene);
     ASSERT_NE(hit, nullptr);
     EXPECT_FLOAT_EQ(hit->getPoint()[2], 0);
+}
+
+TEST(FiniteSeparatorTest, WhatMovesWithinASceneNeverMovesItsBounds) {
+    const NodePointer<SoSeparator> scene(new SoSeparator);
+    SoSeparator* corners = SceneNodes::createSeparator("Corners");
+    corners->addChild(SceneNodes::createCoordinates({{-31.713F, -30.137F, -29.871F},
+                                                     {30.319F, -30.137F, -29.871F},
+                                                     {-31.713F, 31.617F, 32.003F},
+                                                     {30.319F, 31.617F, 32.003F}}));
+    corners->addChild(SceneNodes::createQuadMesh(2, 2));
+    scene->addChild(corners);
+    for (int i = 0; i < 100; ++i) {
+        SoSeparator* sphere = sphereAt(static_cast<float>(29 * std::sin(0.7 * i)));
+        scene->addChild(sphere);
+        EXPECT_EQ(boundsOf(*scene).getMin(), SbVec3f(-31.713F, -30.137F, -29.871F));
+        EXPECT_EQ(boundsOf(*scene).getMax(), SbVec3f(30.319F, 31.617F, 32.003F));
+        scene->removeChild(sphere);
+    }
 }
 
 class FiniteSeparatorWith : public testing::TestWithParam<float> {};

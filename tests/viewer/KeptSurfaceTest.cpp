@@ -1,115 +1,13 @@
-#include "tests/support/KeptPictures.h"
+#include "tests/viewer/KeptSurface.h"
 #include "tests/support/ResidentMemory.h"
-#include "tests/viewer/ShownFrame.h"
 
-#include <Inventor/nodes/SoCoordinate3.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
-#include <Inventor/nodes/SoFaceSet.h>
-#include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
-#include <Inventor/nodes/SoSphere.h>
-#include <Inventor/nodes/SoTranslation.h>
-#include <QGLWidget>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
-namespace {
-
-const SbColor red(1, 0, 0);
-const SbColor green(0, 1, 0);
-const SbColor blue(0, 0, 1);
-
-SoMaterial* createMaterial(const SbColor& color) {
-    auto* material = new SoMaterial;
-    material->diffuseColor = color;
-    material->ambientColor = color;
-    return material;
-}
-
-/** A triangle that covers the middle of the view, slanted, so that its depth is all numbers. */
-SoSeparator* createTriangle(const SbColor& color, float size = 1) {
-    auto* triangle = new SoSeparator;
-    triangle->addChild(createMaterial(color));
-    auto* corners = new SoCoordinate3;
-    const std::array<SbVec3f, 3> points{SbVec3f(-0.71F, -0.62F, 0.37F) * size,
-                                        SbVec3f(0.83F, -0.53F, -0.29F) * size,
-                                        SbVec3f(0.07F, 0.79F, 0.13F) * size};
-    corners->point.setValues(0, static_cast<int>(points.size()), points.data());
-    triangle->addChild(corners);
-    triangle->addChild(new SoFaceSet);
-    return triangle;
-}
-
-SoSeparator* createBall(const SbColor& color, const SbVec3f& place, float radius) {
-    SoSeparator* ball = SceneNodes::createSeparator("Ball");
-    ball->addChild(createMaterial(color));
-    auto* translation = new SoTranslation;
-    translation->translation = place;
-    ball->addChild(translation);
-    auto* sphere = new SoSphere;
-    sphere->radius = radius;
-    ball->addChild(sphere);
-    return ball;
-}
-
-/** A frame on the screen, its cone for a surface, with what the tests put around it. */
-class KeptSurface : public testing::Test {
-protected:
-    ShownFrame& frame() const { return shown.get(); }
-    SoQtGeneralViewer& viewer() const { return *frame().getViewer(); }
-    SoSeparator& around() const { return *frame().phongBranch(); }
-    SoSeparator& solid() const { return *frame().documentScene().getSolidSeparator(); }
-
-    void SetUp() override {
-        // Whatever lies between these moves no clipping plane.
-        for (const float corner : {-2.0F, 2.0F}) {
-            frame().getSceneRoot()->addChild(
-                createBall(green, SbVec3f(corner, corner, corner), 0.01F));
-        }
-    }
-
-    void setSurface(SoNode* surface) const {
-        constexpr int behindTheLook = 2;
-        frame().drawStyleBranch()->replaceChild(behindTheLook, surface);
-    }
-
-    /** Shows the picture until it is kept, and from then on puts it back. */
-    void keep() {
-        for (int i = 0; i < framesUntilKept; ++i) {
-            pictures.shown();
-        }
-        pictures.drawnSurfaces();
-        pictures.shown();
-        EXPECT_EQ(pictures.drawnSurfaces(), 0);
-    }
-
-    /** Expects the kept picture to be shown, and to be what is drawn wholly. */
-    void expectKeptAndSame() {
-        const QImage kept = pictures.shown();
-        EXPECT_EQ(pictures.drawnSurfaces(), 0);
-        EXPECT_EQ(kept, pictures.wholly());
-    }
-
-    /** Expects that the surface is drawn, and the picture is what is drawn wholly. */
-    void expectDrawnAndSame() {
-        const QImage drawn = pictures.shown();
-        EXPECT_GT(pictures.drawnSurfaces(), 0);
-        EXPECT_EQ(drawn, pictures.wholly());
-    }
-
-    QColor middle() {
-        const QImage picture = pictures.shown();
-        return picture.pixelColor(picture.rect().center());
-    }
-
-    static constexpr int framesUntilKept = 3;
-    const FrameOnScreen shown;
-    KeptPictures pictures{shown.get()};
-};
-
-} // namespace
+using namespace KeptScene;
 
 TEST_F(KeptSurface, IsShownAgainFromTheThirdFrameInWhichNothingHasChanged) {
     viewer().getCamera()->orientation = SbRotation(SbVec3f(0.3F, 1, 0.2F), 0.4F);
@@ -184,6 +82,18 @@ TEST_F(KeptSurface, IsTakenAnewAfterWhateverChangesTheSurfaceOnTheScreen) {
         [&] { frame().drawStyleBranch()->addChild(createTriangle(red, 1.7F)); },
         // Moves the clipping planes.
         [&] { around().addChild(createBall(blue, SbVec3f(0, 0, 7), 0.2F)); },
+        // To the side, with the clipping planes and the light where they are.
+        [&] {
+            viewer().setAutoClipping(FALSE);
+            SoSFVec3f& position = viewer().getCamera()->position;
+            position = position.getValue() + SbVec3f(0.13F, -0.07F, 0);
+        },
+        [&] {
+            viewer().setAutoClipping(TRUE);
+            viewer().setViewportRegion(partOfWindow(13, 17, 300));
+        },
+        [&] { viewer().setViewportRegion(partOfWindow(29, 7, 300)); },
+        [&] { viewer().setViewportRegion(partOfWindow(29, 7, 150)); },
     };
     int number = 0;
     for (const std::function<void()>& change : changes) {
@@ -199,36 +109,6 @@ TEST_F(KeptSurface, IsTakenAnewAfterWhateverChangesTheSurfaceOnTheScreen) {
     }
 }
 
-TEST_F(KeptSurface, IsNotKeptWhileAnythingIsTransparent) {
-    auto* glass = createMaterial(blue);
-    glass->transparency = 0.5F;
-    keep();
-    frame().drawStyleBranch()->insertChild(glass, 2);
-    for (int i = 0; i < framesUntilKept; ++i) {
-        expectDrawnAndSame();
-    }
-    glass->transparency = 0;
-    keep();
-    SoSeparator* ball = createBall(red, SbVec3f(0.2F, 0.1F, 0.9F), 0.3F);
-    around().addChild(ball);
-    static_cast<SoMaterial*>(ball->getChild(0))->transparency = 0.5F;
-    expectDrawnAndSame();
-}
-
-TEST_F(KeptSurface, IsNotKeptInStylesOfTheViewersOwn) {
-    keep();
-    for (const auto style : {SoQtViewer::VIEW_LINE, SoQtViewer::VIEW_HIDDEN_LINE,
-                             SoQtViewer::VIEW_WIREFRAME_OVERLAY, SoQtViewer::VIEW_BBOX}) {
-        viewer().setDrawStyle(SoQtViewer::STILL, style);
-        const QImage styled = pictures.shown();
-        EXPECT_EQ(styled, pictures.shown());
-        EXPECT_EQ(styled, pictures.wholly());
-    }
-    viewer().setDrawStyle(SoQtViewer::STILL, SoQtViewer::VIEW_AS_IS);
-    keep();
-    expectKeptAndSame();
-}
-
 TEST_F(KeptSurface, IsTakenAnewInAnotherSize) {
     keep();
     for (const QSize size : {QSize(617, 431), QSize(450, 577)}) {
@@ -242,23 +122,29 @@ TEST_F(KeptSurface, IsTakenAnewInAnotherSize) {
     }
 }
 
-TEST_F(KeptSurface, IsNotKeptWithoutABackBuffer) {
+// What was hidden, or outside of the window, need not have been drawn before.
+TEST_F(KeptSurface, IsTakenAnewWhenTheWindowSystemAsksForPainting) {
     keep();
-    viewer().setBufferingType(SoQtViewer::BUFFER_SINGLE);
-    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
-    pictures.drawnSurfaces();
-    for (int i = 0; i < framesUntilKept; ++i) {
-        pictures.shown();
-        EXPECT_EQ(pictures.drawnSurfaces(), 1);
-    }
+    shown.driver().widget().update();
+    pictures.settled();
+    EXPECT_GT(pictures.drawnSurfaces(), 0);
+    keep();
+    expectKeptAndSame();
 }
 
-TEST_F(KeptSurface, IsNotKeptWhenSwitchedOff) {
-    viewer().setKeepsPictures(false);
-    for (int i = 0; i < framesUntilKept; ++i) {
+TEST_F(KeptSurface, StaysWhenAnotherViewGoesWithIts) {
+    keep();
+    {
+        const FrameOnScreen other;
+        for (int i = 0; i < framesUntilKept; ++i) {
+            other.get().getViewer()->render();
+        }
+        RedrawCounter::settle();
+        // Its context is the current one when the other view goes.
         pictures.shown();
-        EXPECT_EQ(pictures.drawnSurfaces(), 1);
     }
+    keep();
+    expectKeptAndSame();
 }
 
 TEST(KeptSurfaces, GiveTheirMemoryBackWithTheirView) {

@@ -1,0 +1,143 @@
+#include "tests/viewer/KeptSurface.h"
+#include "viewer/OffscreenContexts.h"
+
+#include <Inventor/SoOffscreenRenderer.h>
+#include <Inventor/SoSceneManager.h>
+#include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <utility>
+
+using namespace KeptScene;
+
+TEST_F(KeptSurface, IsNotKeptWhileAnythingIsTransparent) {
+    auto* glass = createMaterial(blue);
+    glass->transparency = 0.5F;
+    keep();
+    frame().drawStyleBranch()->insertChild(glass, 2);
+    for (int i = 0; i < framesUntilKept; ++i) {
+        expectDrawnAndSame();
+    }
+    glass->transparency = 0;
+    keep();
+    SoSeparator* ball = createBall(red, SbVec3f(0.2F, 0.1F, 0.9F), 0.3F);
+    around().addChild(ball);
+    static_cast<SoMaterial*>(ball->getChild(0))->transparency = 0.5F;
+    expectDrawnAndSame();
+}
+
+TEST_F(KeptSurface, IsNotKeptInStylesOfTheViewersOwn) {
+    for (const auto style : {SoQtViewer::VIEW_LINE, SoQtViewer::VIEW_HIDDEN_LINE,
+                             SoQtViewer::VIEW_WIREFRAME_OVERLAY, SoQtViewer::VIEW_BBOX}) {
+        SCOPED_TRACE(style);
+        keep();
+        viewer().setDrawStyle(SoQtViewer::STILL, style);
+        expectNeverKept();
+        viewer().setDrawStyle(SoQtViewer::STILL, SoQtViewer::VIEW_AS_IS);
+    }
+    keep();
+    viewer().setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_LINE);
+    expectNeverKept();
+}
+
+TEST_F(KeptSurface, IsNotKeptInStereo) {
+    keep();
+    viewer().setCameraType(SoPerspectiveCamera::getClassTypeId());
+    ASSERT_TRUE(viewer().setStereoType(SoQtViewer::STEREO_ANAGLYPH));
+    expectNeverKept();
+    // Both eyes see the same, each in its own colours.
+    viewer().setStereoOffset(0);
+    expectNeverKept();
+}
+
+TEST_F(KeptSurface, IsNotKeptWhereOneFrameIsDrawnOverTheOther) {
+    for (const auto& [color, depth] : {std::pair(FALSE, TRUE), std::pair(TRUE, FALSE)}) {
+        viewer().setClearBeforeRender(TRUE, TRUE);
+        keep();
+        viewer().setClearBeforeRender(color, depth);
+        expectNeverKept();
+    }
+}
+
+TEST_F(KeptSurface, IsNotKeptWithoutMultisampling) {
+    viewer().setSampleBuffers(1);
+    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    pictures.shown();
+    expectNeverKept();
+}
+
+TEST_F(KeptSurface, IsNotKeptWithinADisplayList) {
+    keep();
+    const QImage picture = pictures.wholly();
+    static_cast<SoSeparator*>(viewer().getSceneManager()->getSceneGraph())->renderCaching =
+        SoSeparator::ON;
+    for (int i = 0; i < 2 * framesUntilKept; ++i) {
+        EXPECT_EQ(pictures.shown(), picture);
+    }
+    for (const float place : {0.31F, -0.23F, 0.11F, 0.45F}) {
+        around().addChild(createBall(red, SbVec3f(place, -place, 0.9F), 0.17F));
+        for (int i = 0; i < framesUntilKept; ++i) {
+            EXPECT_EQ(pictures.shown(), pictures.wholly());
+        }
+    }
+}
+
+TEST_F(KeptSurface, IsDrawnElsewhereWithoutTheKeptPicture) {
+    keep();
+    const QImage picture = pictures.shown();
+    OffscreenContexts::install();
+    SoOffscreenRenderer renderer(viewer().getViewportRegion());
+    for (int i = 0; i < 2 * framesUntilKept; ++i) {
+        pictures.drawnSurfaces();
+        EXPECT_TRUE(renderer.render(viewer().getSceneManager()->getSceneGraph()));
+        EXPECT_EQ(pictures.drawnSurfaces(), 1);
+    }
+    EXPECT_EQ(pictures.shown(), picture);
+    EXPECT_EQ(pictures.drawnSurfaces(), 0);
+}
+
+TEST_F(KeptSurface, IsNotKeptWithoutABackBuffer) {
+    keep();
+    viewer().setBufferingType(SoQtViewer::BUFFER_SINGLE);
+    viewer().setSampleBuffers(4);
+    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    pictures.drawnSurfaces();
+    for (int i = 0; i < framesUntilKept; ++i) {
+        pictures.shown();
+        EXPECT_EQ(pictures.drawnSurfaces(), 1);
+    }
+    // In another OpenGL context, whose format need not be the first one's.
+    viewer().setBufferingType(SoQtViewer::BUFFER_DOUBLE);
+    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    pictures.shown();
+    for (int i = 0; i < 2 * framesUntilKept; ++i) {
+        EXPECT_EQ(pictures.shown(), pictures.wholly());
+    }
+}
+
+// As in the view of a helix: what stands around nothing would be drawn twice for it.
+TEST_F(KeptSurface, IsNotKeptWhereThereIsNone) {
+    setSurface(new SoSeparator);
+    RedrawCounter surroundings(around());
+    for (int i = 0; i < 2 * framesUntilKept; ++i) {
+        pictures.shown();
+        EXPECT_EQ(surroundings.take(), 1);
+    }
+}
+
+TEST_F(KeptSurface, IsNotKeptWhenSwitchedOff) {
+    viewer().setKeepsPictures(false);
+    for (int i = 0; i < framesUntilKept; ++i) {
+        pictures.shown();
+        EXPECT_EQ(pictures.drawnSurfaces(), 1);
+    }
+}
+
+TEST(KeptSurfaces, AreSwitchedOffByTheEnvironment) {
+    qputenv("TORVANE_KEEP_PICTURES", "0");
+    const FrameOnScreen shown;
+    qunsetenv("TORVANE_KEEP_PICTURES");
+    RedrawCounter surfaces(*shown.get().drawStyleBranch());
+    for (int i = 0; i < 5; ++i) {
+        shown.get().getViewer()->render();
+        EXPECT_EQ(surfaces.take(), 1);
+    }
+}
