@@ -50,3 +50,13 @@ TEST_F(MessageRoomTest, IsAThirdOfTheBarAtMost) {
     EXPECT_EQ(bar.width(), 600) << "it can be made smaller";
     EXPECT_NEAR(edge(), 200, 20);
 }
+
+TEST_F(MessageRoomTest, IsTakenFromTheLeftAlone) {
+    bar.clearMessage();
+    resize(800);
+    EXPECT_EQ(bar.contentsMargins(), QMargins());
+    bar.showMessage("Create a new viewer");
+    const QMargins margins = bar.contentsMargins();
+    EXPECT_GT(margins.left(), 0);
+    EXPECT_EQ(margins, QMargins(margins.left(), 0, 0, 0));
+}

@@ -113,6 +113,7 @@ TEST(ProgramInformation, VersionIsToldWithoutDisplay) {
 
 TEST(ProgramInformation, HelpNamesTheOptionsWithoutDisplay) {
     const std::string help = answerTo("--help");
+    EXPECT_NE(help.find("Shows helices and the quadric surface"), std::string::npos);
     EXPECT_NE(help.find("-h, --help"), std::string::npos);
     EXPECT_NE(help.find("-v, --version"), std::string::npos);
     EXPECT_EQ(answerTo("-h"), help);

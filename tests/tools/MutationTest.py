@@ -164,9 +164,17 @@ class RecordTest(unittest.TestCase):
 
 
 class WorkshopTest(unittest.TestCase):
+    def setUp(self):
+        self.workshop = Workshop(ROOT, ROOT, "HEAD")
+        self.workshop.build = pathlib.Path(os.environ["TORVANE_BUILD"])
+
+    def test_a_program_counts_with_the_tests_that_start_it(self):
+        self.assertEqual(self.workshop.started_by("program_test"), ["torvane"])
+        self.assertEqual(self.workshop.started_by("batch_program_test"), ["torvane-batch"])
+        self.assertEqual(self.workshop.started_by("math_test"), [])
+
     def test_every_test_program_is_known_and_no_other_those_of_the_models_first(self):
-        workshop = Workshop(ROOT, ROOT, "HEAD")
-        workshop.build = pathlib.Path(os.environ["TORVANE_BUILD"])
+        workshop = self.workshop
         programs = sorted(workshop.listed_programs(), key=lambda program: program.rank)
         names = [program.name for program in programs]
         built = {program.name for program in (workshop.build / "bin").glob("*_test")}

@@ -120,6 +120,11 @@ class Workshop:
         found = re.search(r"tests/(\w+)/CMakeFiles", inputs)
         return found[1] if found else ""
 
+    def started_by(self, name):
+        """The programs that a test program starts: they are built before it, but not into it."""
+        inputs = self.output("ninja", "-C", self.build, "-t", "query", f"bin/{name}")
+        return re.findall(r"\|\| bin/([\w-]+)", inputs)
+
     def seconds(self, program):
         """How long a program takes while nothing is changed. It must pass."""
         started = time.monotonic()
@@ -136,8 +141,12 @@ class Workshop:
             file.touch()
             plan = self.output("ninja", "-C", self.build, "-n", "-v", "all")
             os.utime(file, ns=(before.st_atime_ns, before.st_mtime_ns))
-            built = set(re.findall(r"-o bin/(\w+)", plan))
-            seeing[path] = [program for program in self.programs if program.name in built]
+            built = set(re.findall(r"-o bin/([\w-]+)", plan))
+            seeing[path] = [
+                program
+                for program in self.programs
+                if built & {program.name, *self.started_by(program.name)}
+            ]
         return seeing
 
     def judge(self, change, programs, seconds):
