@@ -1,6 +1,7 @@
 // What becomes of the helices when the parameter dialog gives the surfaces another grid.
 
 #include "helix/HelixNames.h"
+#include "hyperboloid/HyperboloidParameters.h"
 #include "tests/app/ParameterDialogs.h"
 #include "tests/support/OpenedWindow.h"
 #include "tests/support/ReplacementCounter.h"
@@ -118,4 +119,28 @@ TEST(GridChangeTest, WorksWithoutAnyHelix) {
     opened.closeFrame(opened.firstHelix());
     changeGrid(opened, 12, 9);
     EXPECT_EQ(opened.hyperboloid(Hyperboloid::MSPACE).getNumVertices(), 108U);
+}
+
+TEST(GridChangeTest, FifteenNumbersReachEveryModelEachInItsPlace) {
+    const OpenedWindow opened;
+    opened.window().refresh_hyperboloids(1.37, 2.91, 1.73, 0.59, -0.83, 0.71, -0.43, 0.29, 13, 8,
+                                         0.17, 5.3, 6.1, 0.07, 0.11);
+    for (int space = 0; space < 3; ++space) {
+        const HyperboloidParameters reached = HyperboloidParameters::of(opened.hyperboloid(space));
+        EXPECT_NEAR(reached.K1, 1.37, 1e-6);
+        EXPECT_NEAR(reached.K2, 2.91, 1e-6);
+        EXPECT_NEAR(reached.K3, 1.73, 1e-6);
+        EXPECT_NEAR(reached.K13, 0.59, 1e-6);
+        EXPECT_NEAR(reached.K23, -0.83, 1e-6);
+        EXPECT_NEAR(reached.U1, 0.71, 1e-6);
+        EXPECT_NEAR(reached.U2, -0.43, 1e-6);
+        EXPECT_NEAR(reached.U3, 0.29, 1e-6);
+        EXPECT_EQ(reached.horizontalPrecision, 13);
+        EXPECT_EQ(reached.verticalPrecision, 8);
+        EXPECT_NEAR(reached.pointRadius, 0.17, 1e-6);
+        EXPECT_NEAR(reached.u3constRange, 5.3, 1e-6);
+        EXPECT_NEAR(reached.u3axisRange, 6.1, 1e-6);
+        EXPECT_NEAR(reached.u3constRadius, 0.07, 1e-6);
+        EXPECT_NEAR(reached.u3axisRadius, 0.11, 1e-6);
+    }
 }
