@@ -11,7 +11,7 @@
 namespace {
 
 constexpr GLuint everyBit = ~0U;
-/** What the stencil of a sample holds where something nearer than the surface is seen. */
+/** What the stencil of a sample holds where something that comes before the surface is seen. */
 constexpr GLint notTheSurface = 1;
 
 void setDepthFunction(SoState* state, SoDepthBufferElement::DepthWriteFunction function) {
@@ -34,6 +34,7 @@ void DocumentRoot::GLRenderBelowPath(SoGLRenderAction* action) {
         SoSeparator::GLRenderBelowPath(action);
         return;
     }
+    // Nor is a list begun around this frame: the next one may be drawn in another way.
     SoGLCacheContextElement::shouldAutoCache(state, SoGLCacheContextElement::DONT_AUTO_CACHE);
     drawAroundSurface(action, surfaceIndex);
 }

@@ -8,7 +8,8 @@
  * before what stands in front of it in the scene, so that the picture of the surface alone can be
  * kept from one frame to the next.
  *
- * The frame is the same to the last bit, as long as all is opaque. The order of drawing decides
+ * The frame is the same to the last bit, as long as all is opaque and nothing touches the far
+ * plane. The order of drawing decides
  * only between fragments of exactly the same depth, where the later one is seen. What the scene has
  * before the surface and is drawn after it is therefore drawn twice: first where it is nearer than
  * all before, which settles the depth and marks the samples that are not the surface's, then where

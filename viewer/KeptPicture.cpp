@@ -112,6 +112,7 @@ void KeptPicture::copy(GLuint from, GLuint to) const {
     // Windows may lie in memory from the top down, framebuffer objects lie from the bottom up.
     // Copied upside down, rows and samples stay as they are; turned over, the depth would be
     // rounded.
+    // Depth and stencil lie together in memory, and are copied at once where both are wanted.
     gl.glBlitFramebuffer(
         0, 0, width, height, 0, isMirrored ? height : 0, width, isMirrored ? 0 : height,
         GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT, GL_NEAREST);

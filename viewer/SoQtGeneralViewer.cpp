@@ -50,7 +50,10 @@ void SoQtGeneralViewer::keepSurfaceOf(const DocumentScene& scene) {
 }
 
 bool SoQtGeneralViewer::drawsInOneGo() const {
-    return keepsPictures && getDrawStyle(STILL) == VIEW_AS_IS &&
+    SbBool smoothing = FALSE;
+    int passes = 1;
+    getAntialiasing(smoothing, passes);
+    return keepsPictures && !smoothing && passes == 1 && getDrawStyle(STILL) == VIEW_AS_IS &&
            getDrawStyle(INTERACTIVE) == VIEW_SAME_AS_STILL && !isStereoViewing() &&
            getBufferingType() == BUFFER_DOUBLE && isClearBeforeRender() &&
            isClearZBufferBeforeRender();

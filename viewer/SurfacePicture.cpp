@@ -1,8 +1,9 @@
 #include "viewer/SurfacePicture.h"
 
-#include <Inventor/SoFullPath.h>
+#include <Inventor/SoPath.h>
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/actions/SoSearchAction.h>
+#include <Inventor/nodes/SoLight.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoShape.h>
 #include <algorithm>
@@ -21,7 +22,7 @@ bool hasTransparency(SoNode& scene) {
     materials.setInterest(SoSearchAction::ALL);
     materials.apply(&scene);
     for (int i = 0; i < materials.getPaths().getLength(); ++i) {
-        const SoNode* material = static_cast<SoFullPath*>(materials.getPaths()[i])->getTail();
+        const SoNode* material = materials.getPaths()[i]->getTail();
         if (isTransparent(*static_cast<const SoMaterial*>(material))) {
             return true;
         }
@@ -29,11 +30,18 @@ bool hasTransparency(SoNode& scene) {
     return false;
 }
 
-bool hasShape(const SoNode& surface) {
-    SoSearchAction shapes;
-    shapes.setType(SoShape::getClassTypeId());
-    shapes.apply(const_cast<SoNode*>(&surface));
-    return shapes.getPath() != nullptr;
+bool has(const SoType& type, const SoNode& part) {
+    SoSearchAction search;
+    search.setType(type);
+    search.apply(const_cast<SoNode*>(&part));
+    return search.getPath() != nullptr;
+}
+
+/** Whether a copy of the surface shows what drawing it where it stands in the scene does. */
+bool canBeCopied(const SoPath& root, const SoNode& surface) {
+    // The shader sums the lights of all units, and a light stays in its unit behind its separator.
+    return has(SoShape::getClassTypeId(), surface) && !hasTransparency(*root.getHead()) &&
+           !has(SoLight::getClassTypeId(), *root.getTail());
 }
 
 } // namespace
@@ -46,7 +54,7 @@ bool SurfacePicture::show(SoGLRenderAction& action, const SoNode& surface,
         sight = now;
         return false;
     }
-    if (isRefused || hasTransparency(*action.getCurPath()->getHead()) || !hasShape(surface)) {
+    if (isRefused || !canBeCopied(*action.getCurPath(), surface)) {
         return false;
     }
     if (picture.isTaken()) {

@@ -1,6 +1,6 @@
 #include "viewer/SurfaceSight.h"
 
-#include <Inventor/SoFullPath.h>
+#include <Inventor/SoPath.h>
 #include <Inventor/actions/SoGLRenderAction.h>
 #include <Inventor/elements/SoProjectionMatrixElement.h>
 #include <Inventor/elements/SoViewingMatrixElement.h>
@@ -12,7 +12,7 @@
 #include <array>
 
 SurfaceSight::SurfaceSight(SoGLRenderAction& action, const SoNode& child) {
-    const auto& path = *static_cast<const SoFullPath*>(action.getCurPath());
+    const SoPath& path = *action.getCurPath();
     const int last = path.getLength() - 1;
     for (int i = 0; i < last; ++i) {
         addElderBrothers(*path.getNode(i), path.getNode(i + 1));

@@ -21,7 +21,7 @@ public:
      * The sight of a child of the node that the action has come to.
      *
      * What the node's and the child's elder brothers have set counts with all their contents,
-     * unless they are separators, which set nothing.
+     * unless they are separators, which set nothing but lights.
      */
     SurfaceSight(SoGLRenderAction& action, const SoNode& child);
 

@@ -4,6 +4,7 @@
 #include "tests/viewer/ShownFrame.h"
 
 #include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoEnvironment.h>
 #include <Inventor/nodes/SoFaceSet.h>
 #include <Inventor/nodes/SoMaterial.h>
 #include <Inventor/nodes/SoSphere.h>
@@ -71,6 +72,10 @@ protected:
     void setSurface(SoNode* surface) const {
         constexpr int behindTheLook = 2;
         frame().drawStyleBranch()->replaceChild(behindTheLook, surface);
+    }
+
+    SoEnvironment& environment() const {
+        return static_cast<SoEnvironment&>(*frame().getSceneRoot()->getChild(0));
     }
 
     /** A part of the window by its lower left corner and its width. */

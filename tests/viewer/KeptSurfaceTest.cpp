@@ -45,6 +45,11 @@ TEST_F(KeptSurface, OfTwoThingsAtTheSameDepthShowsTheOneThatTheSceneHasLater) {
     expectKeptAndSame();
     EXPECT_GT(middle().red(), 0);
     EXPECT_EQ(middle().blue(), 0);
+    // What was nearest a frame ago leaves no mark.
+    SoSeparator* ball = createBall(blue, SbVec3f(0, 0, 1), 0.6F);
+    around().addChild(ball);
+    expectKeptAndSame();
+    around().removeChild(ball);
     around().addChild(createTriangle(green));
     expectKeptAndSame();
     EXPECT_GT(middle().green(), 0);
@@ -74,6 +79,8 @@ TEST_F(KeptSurface, IsTakenAnewAfterWhateverChangesTheSurfaceOnTheScreen) {
         [&] { viewer().setCameraType(SoPerspectiveCamera::getClassTypeId()); },
         [&] { viewer().getHeadlight()->intensity = 0.4F; },
         [&] { viewer().getHeadlight()->color = SbColor(0.9F, 0.7F, 0.8F); },
+        [&] { environment().ambientIntensity = 0.7F; },
+        [&] { environment().ambientColor = SbColor(0.3F, 0.9F, 0.6F); },
         [&] { viewer().setBackgroundColor(SbColor(0.2F, 0.4F, 0.3F)); },
         [&] { frame().toggleDrawStyle(); },
         [&] { frame().toggleDrawStyle(); },
@@ -106,6 +113,8 @@ TEST_F(KeptSurface, IsTakenAnewAfterWhateverChangesTheSurfaceOnTheScreen) {
         const QImage now = pictures.settled();
         EXPECT_EQ(now, pictures.wholly());
         EXPECT_NE(now, before);
+        keep();
+        expectKeptAndSame();
     }
 }
 

@@ -3,12 +3,14 @@
 
 #include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/SoSceneManager.h>
+#include <Inventor/nodes/SoDirectionalLight.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 #include <utility>
 
 using namespace KeptScene;
 
 TEST_F(KeptSurface, IsNotKeptWhileAnythingIsTransparent) {
+    around().addChild(createBall(green, SbVec3f(-0.42F, 0.17F, -0.8F), 0.2F));
     auto* glass = createMaterial(blue);
     glass->transparency = 0.5F;
     keep();
@@ -36,6 +38,24 @@ TEST_F(KeptSurface, IsNotKeptInStylesOfTheViewersOwn) {
     keep();
     viewer().setDrawStyle(SoQtViewer::INTERACTIVE, SoQtViewer::VIEW_LINE);
     expectNeverKept();
+}
+
+TEST_F(KeptSurface, IsNotKeptInASceneWithLightsOfItsOwn) {
+    auto* light = new SoDirectionalLight;
+    light->direction.setValue(1, -0.7F, -0.4F);
+    around().addChild(light);
+    expectNeverKept();
+    light->intensity = 0.3F;
+    expectNeverKept();
+}
+
+TEST_F(KeptSurface, IsNotKeptWithSmoothedLinesOrSeveralPasses) {
+    for (const auto& [smoothing, passes] : {std::pair(TRUE, 1), std::pair(FALSE, 2)}) {
+        viewer().setAntialiasing(FALSE, 1);
+        keep();
+        viewer().setAntialiasing(smoothing, passes);
+        expectNeverKept();
+    }
 }
 
 TEST_F(KeptSurface, IsNotKeptInStereo) {
