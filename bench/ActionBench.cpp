@@ -2,17 +2,16 @@
 // never shown, so that no view is drawn.
 
 #include "app/MainWindow.h"
-#include "bench/RatioReporter.h"
+#include "bench/WindowBenchmarks.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
-#include "viewer/WindowSystem.h"
 
-#include <Inventor/Qt/SoQt.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QAction>
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -111,10 +110,5 @@ void registerAll() {
 } // namespace
 
 int main(int argc, char** argv) {
-    WindowSystem::prepareEnvironment();
-    const QApplication application(argc, argv);
-    QWidget toolkitWindow;
-    SoQt::init(&toolkitWindow);
-    registerAll();
-    return RatioReporter::runAll(argc, argv);
+    return WindowBenchmarks::run(argc, argv, registerAll);
 }

@@ -2,14 +2,12 @@
 // with every frame drawn wholly. The processor's time of all threads, those of the rasteriser too;
 // for the held key the time that passes between two pictures.
 
-#include "bench/RatioReporter.h"
 #include "bench/ShownWindow.h"
+#include "bench/WindowBenchmarks.h"
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
-#include "viewer/WindowSystem.h"
 
-#include <Inventor/Qt/SoQt.h>
 #include <Inventor/nodes/SoCamera.h>
 #include <Inventor/system/gl.h>
 #include <QApplication>
@@ -19,6 +17,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
+#include <benchmark/benchmark.h>
 #include <ctime>
 #include <functional>
 #include <string>
@@ -119,7 +118,7 @@ void registerBothWays(const std::string& work, int grid,
     }
 }
 
-void registerAll(int grid) {
+void registerGrid(int grid) {
     const auto surfaces = [](const ShownWindow& shown) {
         Views views = shown.views();
         views.pop_back();
@@ -140,15 +139,14 @@ void registerAll(int grid) {
     registerBothWays("held key, a picture every", grid, holdKey);
 }
 
+void registerAll() {
+    for (const int grid : {64, 500}) {
+        registerGrid(grid);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    WindowSystem::prepareEnvironment();
-    const QApplication application(argc, argv);
-    QWidget toolkitWindow;
-    SoQt::init(&toolkitWindow);
-    for (const int grid : {64, 500}) {
-        registerAll(grid);
-    }
-    return RatioReporter::runAll(argc, argv);
+    return WindowBenchmarks::run(argc, argv, registerAll);
 }

@@ -2,16 +2,15 @@
 // OpenGL the rasteriser's own threads come on top; they are not counted.
 
 #include "app/ImageExport.h"
-#include "bench/RatioReporter.h"
 #include "bench/ShownWindow.h"
+#include "bench/WindowBenchmarks.h"
 #include "hyperboloid/HyperboloidFrame.h"
 #include "viewer/SoQtGeneralViewer.h"
-#include "viewer/WindowSystem.h"
 
-#include <Inventor/Qt/SoQt.h>
 #include <Inventor/SoOffscreenRenderer.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <QApplication>
+#include <benchmark/benchmark.h>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
@@ -99,13 +98,7 @@ void exportImage(State& state) {
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    WindowSystem::prepareEnvironment();
-    const QApplication application(argc, argv);
-    QWidget toolkitWindow;
-    SoQt::init(&toolkitWindow);
+void registerAll() {
     RegisterBenchmark("frame of U, 500 x 500/uncached", [](State& state) {
         drawSurface(state, SoSeparator::OFF);
     })->UseManualTime();
@@ -122,5 +115,10 @@ int main(int argc, char** argv) {
     RegisterBenchmark("image of U, 64 x 64, 1800 x 1500/ours", exportImage)
         ->UseRealTime()
         ->Unit(benchmark::kMillisecond);
-    return RatioReporter::runAll(argc, argv);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return WindowBenchmarks::run(argc, argv, registerAll);
 }

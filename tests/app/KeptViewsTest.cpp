@@ -1,9 +1,8 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/FileContent.h"
 #include "tests/support/FileDialogs.h"
+#include "tests/support/KeptPictures.h"
 #include "tests/support/OpenedWindow.h"
-#include "tests/support/RedrawCounter.h"
-#include "viewer/SoQtGeneralViewer.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -33,11 +32,8 @@ protected:
         for (SoQtGeneralViewerFrame* frame : opened.frames()) {
             RedrawCounter::settle();
             const QImage shown = ViewDriver(*frame).grab();
-            SoQtGeneralViewer& viewer = *frame->getViewer();
-            viewer.setKeepsPictures(false);
-            viewer.render();
-            viewer.setKeepsPictures(true);
-            EXPECT_EQ(shown, ViewDriver(*frame).grab()) << frame->windowTitle().toStdString();
+            EXPECT_EQ(shown, KeptPictures::drawnWholly(*frame))
+                << frame->windowTitle().toStdString();
         }
     }
 

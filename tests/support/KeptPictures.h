@@ -26,10 +26,19 @@ public:
 
     /** What the screen shows after a frame that is drawn wholly. */
     QImage wholly() {
-        frame->getViewer()->setKeepsPictures(false);
-        QImage picture = shown();
-        frame->getViewer()->setKeepsPictures(true);
+        QImage picture = drawnWholly(*frame);
         surfaces.take();
+        return picture;
+    }
+
+    /** The same for a frame whose drawings nobody counts. */
+    static QImage drawnWholly(SoQtGeneralViewerFrame& frame) {
+        SoQtGeneralViewer& viewer = *frame.getViewer();
+        viewer.setKeepsPictures(false);
+        viewer.render();
+        RedrawCounter::settle();
+        QImage picture = ViewDriver(frame).grab();
+        viewer.setKeepsPictures(true);
         return picture;
     }
 

@@ -9,14 +9,14 @@ namespace {
 /** What the environment says about the window system; afterwards it says what it said before. */
 class WindowSystemTest : public testing::Test {
 protected:
-    WindowSystemTest() {
+    void SetUp() override {
         for (const char* name : {"DISPLAY", "QT_QPA_PLATFORM", "QT_ENABLE_HIGHDPI_SCALING",
                                  "QT_AUTO_SCREEN_SCALE_FACTOR"}) {
             before[name] = qgetenv(name);
             qunsetenv(name);
         }
     }
-    ~WindowSystemTest() override {
+    void TearDown() override {
         for (const auto& [name, value] : before) {
             value.isNull() ? qunsetenv(name) : qputenv(name, value);
         }

@@ -116,14 +116,15 @@ class Workshop:
 
     def layer_of(self, name):
         """The folder of a test program's sources; empty for another program."""
-        inputs = self.output("ninja", "-C", self.build, "-t", "query", f"bin/{name}")
-        found = re.search(r"tests/(\w+)/CMakeFiles", inputs)
+        found = re.search(r"tests/(\w+)/CMakeFiles", self.inputs_of(name))
         return found[1] if found else ""
 
     def started_by(self, name):
         """The programs that a test program starts: they are built before it, but not into it."""
-        inputs = self.output("ninja", "-C", self.build, "-t", "query", f"bin/{name}")
-        return re.findall(r"\|\| bin/([\w-]+)", inputs)
+        return re.findall(r"\|\| bin/([\w-]+)", self.inputs_of(name))
+
+    def inputs_of(self, name):
+        return self.output("ninja", "-C", self.build, "-t", "query", f"bin/{name}")
 
     def seconds(self, program):
         """How long a program takes while nothing is changed. It must pass."""
@@ -135,6 +136,7 @@ class Workshop:
     def programs_seeing(self, paths):
         """For each file the test programs that depend on it. Everything must be built."""
         seeing = {}
+        run = {p.name: {p.name, *self.started_by(p.name)} for p in self.programs}
         for path in paths:
             file = self.folder / path
             before = file.stat()
@@ -142,11 +144,7 @@ class Workshop:
             plan = self.output("ninja", "-C", self.build, "-n", "-v", "all")
             os.utime(file, ns=(before.st_atime_ns, before.st_mtime_ns))
             built = set(re.findall(r"-o bin/([\w-]+)", plan))
-            seeing[path] = [
-                program
-                for program in self.programs
-                if built & {program.name, *self.started_by(program.name)}
-            ]
+            seeing[path] = [program for program in self.programs if built & run[program.name]]
         return seeing
 
     def judge(self, change, programs, seconds):
