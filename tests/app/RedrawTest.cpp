@@ -19,7 +19,7 @@ public:
 
     bool waitUntilAllAreDrawn() const { return counters.waitUntilAllAreDrawn(); }
 
-    const OpenedWindow opened;
+    const OpenedWindow opened{QSize(1000, 800)};
 
 private:
     RedrawCounters counters{opened.frames()};

@@ -12,6 +12,9 @@ namespace {
 
 constexpr const char* otherSphere = "Helix_other";
 
+/** Of frames whose pictures are compared often: smaller than a user can make them. */
+constexpr QSize smallSize(230, 190);
+
 /** A random user of linked frames, and what the frames show with kept pictures and without. */
 class ComparedFrames {
 public:
@@ -21,7 +24,8 @@ public:
         opened.showSideBySide();
         LinkedFrames::tie(opened.firstHelix(), u());
         for (HyperboloidFrame* frame : all) {
-            frame->resize(340, 270);
+            frame->setMinimumSize(1, 1);
+            frame->resize(smallSize);
             pictures.push_back(std::make_unique<KeptPictures>(*frame));
         }
     }
@@ -111,7 +115,8 @@ private:
     }
     void resize() {
         HyperboloidFrame& frame = any();
-        frame.resize(dice.between(300, 420), dice.between(230, 340));
+        frame.resize(smallSize.width() + dice.between(-20, 90),
+                     smallSize.height() + dice.between(-20, 90));
         QCoreApplication::processEvents();
     }
     void drawElsewhere() {
@@ -158,6 +163,10 @@ TEST_P(KeptSurfaceIn, IsNotDrawnForAStep) {
     const LinkedFrames opened;
     opened.showSideBySide();
     HyperboloidFrame& frame = opened.hyperboloid(GetParam());
+    for (SoQtGeneralViewerFrame* shown : opened.frames()) {
+        shown->setMinimumSize(1, 1);
+        shown->resize(smallSize);
+    }
     LinkedFrames::tie(opened.firstHelix(), frame);
     frame.refresh_hypos(start);
     frame.refresh_helix(start);

@@ -14,7 +14,8 @@
 /** The real main window with its four documents, on the screen and drawn; closed at the end. */
 class OpenedWindow {
 public:
-    explicit OpenedWindow(QSize size = QSize(1000, 800));
+    /** Large enough to use every view, and no larger: most of a test's time is drawing. */
+    explicit OpenedWindow(QSize size = QSize(760, 620));
     ~OpenedWindow();
     OpenedWindow(const OpenedWindow&) = delete;
     OpenedWindow& operator=(const OpenedWindow&) = delete;

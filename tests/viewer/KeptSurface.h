@@ -67,6 +67,19 @@ protected:
             frame().getSceneRoot()->addChild(
                 KeptScene::createBall(KeptScene::green, SbVec3f(corner, corner, corner), 0.01F));
         }
+        // Many pictures are drawn of a view that need not be large.
+        frame().setMinimumSize(1, 1);
+        resize(QSize(310, 250));
+        pictures.drawnSurfaces();
+    }
+
+    void resize(const QSize& size) const {
+        frame().resize(size);
+        EXPECT_TRUE(waitUntil([this] {
+            return viewer().getViewportRegion().getWindowSize()[0] ==
+                   shown.driver().widget().width();
+        }));
+        RedrawCounter::settle();
     }
 
     void setSurface(SoNode* surface) const {
