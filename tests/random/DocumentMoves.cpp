@@ -96,7 +96,7 @@ std::string resizeWindow(const OpenedWindow& opened, Dice& dice) {
 /** Back to a window in which all views can be seen. */
 std::string showAllViews(const OpenedWindow& opened) {
     opened.window().showNormal();
-    opened.window().resize(1000, 800);
+    opened.window().resize(OpenedWindow::usualSize);
     for (QMdiSubWindow* subWindow : opened.area().subWindowList()) {
         subWindow->showNormal();
     }

@@ -15,7 +15,9 @@
 class OpenedWindow {
 public:
     /** Large enough to use every view, and no larger: most of a test's time is drawing. */
-    explicit OpenedWindow(QSize size = QSize(760, 620));
+    static constexpr QSize usualSize{760, 620};
+
+    explicit OpenedWindow(QSize size = usualSize);
     ~OpenedWindow();
     OpenedWindow(const OpenedWindow&) = delete;
     OpenedWindow& operator=(const OpenedWindow&) = delete;
