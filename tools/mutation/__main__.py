@@ -8,8 +8,8 @@ commit; what depends on it is built, and the tests that can see it run, those of
 first, until one fails. At the end stand the counts and the change of every survivor.
 
 The copies and what is known so far stay in --folder. Stopped at any time, the same command goes on
-where it was; Ctrl+C lets the changes in hand come to their end. Random users and long use do not take part: what only they find counts as survived,
-because chance found it.
+where it was; Ctrl+C lets the changes in hand come to their end. Random users and long use do not take
+part: what only they find counts as survived, because chance found it.
 """
 
 import argparse
