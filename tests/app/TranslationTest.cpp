@@ -107,6 +107,7 @@ TEST(Translation, LabelsAndButtonsOfTheParameterDialogBelongToItsKindOfWindow) {
     const HyperboloidParameterDialog translated(set, nullptr);
     EXPECT_EQ(texts<QLabel>(translated), marked("QMainWindow", labels));
     EXPECT_EQ(texts<QPushButton>(translated), marked("QMainWindow", {"Cancel", "Ok"}));
+    EXPECT_EQ(HyperboloidParameterDialog::nameOf(&HyperboloidParameters::K13), "QMainWindow/K13");
 }
 
 TEST(Translation, LabelsOfTheSliderWindowsAreTranslated) {
