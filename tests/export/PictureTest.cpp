@@ -247,6 +247,7 @@ TEST_F(PictureTest, HeadlightThatIsSwitchedOffShinesOnAsOnTheScreen) {
     viewer.getHeadlight()->intensity = 0.91F;
     viewer.getHeadlight()->direction = SbVec3f(1, 0.2F, -0.3F);
     expectLikeTheScreen(x, "changed while off");
+    EXPECT_FALSE(viewer.isHeadlight());
     viewer.setHeadlight(TRUE);
     expectLikeTheScreen(x, "on again");
 }
