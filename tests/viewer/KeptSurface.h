@@ -73,13 +73,19 @@ protected:
         pictures.drawnSurfaces();
     }
 
-    void resize(const QSize& size) const {
+    void resize(const QSize& size) {
         frame().resize(size);
+        waitUntilDrawn();
+    }
+
+    /** After a change of size or of the widget: until a frame draws the surface in its place. */
+    void waitUntilDrawn() {
         EXPECT_TRUE(waitUntil([this] {
-            return viewer().getViewportRegion().getWindowSize()[0] ==
-                   shown.driver().widget().width();
+            pictures.shown();
+            return pictures.drawnSurfaces() > 0 &&
+                   viewer().getViewportRegion().getWindowSize()[0] ==
+                       shown.driver().widget().width();
         }));
-        RedrawCounter::settle();
     }
 
     void setSurface(SoNode* surface) const {

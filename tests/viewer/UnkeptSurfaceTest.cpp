@@ -77,7 +77,7 @@ TEST_F(KeptSurface, IsNotKeptWhereOneFrameIsDrawnOverTheOther) {
 
 TEST_F(KeptSurface, IsNotKeptWithoutMultisampling) {
     viewer().setSampleBuffers(1);
-    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    waitUntilDrawn();
     pictures.shown();
     expectNeverKept();
 }
@@ -100,7 +100,7 @@ TEST_F(KeptSurface, IsNotKeptWithoutABackBuffer) {
     keep();
     viewer().setBufferingType(SoQtViewer::BUFFER_SINGLE);
     viewer().setSampleBuffers(4);
-    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    waitUntilDrawn();
     pictures.drawnSurfaces();
     for (int i = 0; i < framesUntilKept; ++i) {
         pictures.shown();
@@ -108,7 +108,7 @@ TEST_F(KeptSurface, IsNotKeptWithoutABackBuffer) {
     }
     // In another OpenGL context, whose format need not be the first one's.
     viewer().setBufferingType(SoQtViewer::BUFFER_DOUBLE);
-    EXPECT_TRUE(waitUntil([&] { return shown.driver().isDrawn(); }));
+    waitUntilDrawn();
     pictures.shown();
     for (int i = 0; i < 2 * framesUntilKept; ++i) {
         EXPECT_EQ(pictures.shown(), pictures.wholly());
