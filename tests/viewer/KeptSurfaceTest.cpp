@@ -148,6 +148,8 @@ TEST_F(KeptSurface, StaysWhenAnotherViewGoesWithIts) {
         // Its context is the current one when the other view goes.
         pictures.shown();
     }
+    // It has lain on this one, which is painted where it can be seen again.
+    EXPECT_TRUE(waitUntil([this] { return pictures.drawnSurfaces() > 0; }));
     keep();
     expectKeptAndSame();
 }
