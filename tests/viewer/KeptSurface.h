@@ -82,9 +82,10 @@ protected:
     void waitUntilDrawn() {
         EXPECT_TRUE(waitUntil([this] {
             pictures.shown();
+            const QWidget& widget = shown.driver().widget();
             return pictures.drawnSurfaces() > 0 &&
                    viewer().getViewportRegion().getWindowSize()[0] ==
-                       shown.driver().widget().width();
+                       qRound(widget.width() * widget.devicePixelRatioF());
         }));
     }
 
