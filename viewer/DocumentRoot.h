@@ -9,11 +9,11 @@
  * kept from one frame to the next.
  *
  * The frame is the same to the last bit, as long as all is opaque and nothing touches the far
- * plane. The order of drawing decides
- * only between fragments of exactly the same depth, where the later one is seen. What the scene has
- * before the surface and is drawn after it is therefore drawn twice: first where it is nearer than
- * all before, which settles the depth and marks the samples that are not the surface's, then where
- * it is as near, and only on the marked samples, which settles who is seen among its own.
+ * plane. The order of drawing decides only between fragments of exactly the same depth, where the
+ * later one is seen. What the scene has before the surface and is drawn after it is therefore drawn
+ * twice: first where it is nearer than all before, which settles the depth and marks the samples
+ * that are not the surface's, then where it is as near, and only on the marked samples, which
+ * settles who is seen among its own.
  *
  * It has no type of its own in the scene library, on purpose: getTypeId() is SoSeparator's.
  */

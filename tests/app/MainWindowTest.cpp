@@ -107,7 +107,7 @@ TEST(MainWindowTest, DocumentsAreNeverWindowsOfTheirOwn) {
 }
 
 TEST(MainWindowTest, DocumentsAreTiledWithoutOverlap) {
-    const OpenedWindow opened(QSize(1000, 800));
+    const OpenedWindow opened(OpenedWindow::roomySize);
     const QList<QMdiSubWindow*> all = opened.area().subWindowList();
     for (const QMdiSubWindow* one : all) {
         for (const QMdiSubWindow* other : all) {

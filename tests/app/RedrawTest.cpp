@@ -19,7 +19,7 @@ public:
 
     bool waitUntilAllAreDrawn() const { return counters.waitUntilAllAreDrawn(); }
 
-    const OpenedWindow opened{QSize(1000, 800)};
+    const OpenedWindow opened{OpenedWindow::roomySize};
 
 private:
     RedrawCounters counters{opened.frames()};

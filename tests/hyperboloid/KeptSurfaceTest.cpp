@@ -15,6 +15,11 @@ constexpr const char* otherSphere = "Helix_other";
 /** Of frames whose pictures are compared often: smaller than a user can make them. */
 constexpr QSize smallSize(230, 190);
 
+void makeSmall(SoQtGeneralViewerFrame& frame) {
+    frame.setMinimumSize(1, 1);
+    frame.resize(smallSize);
+}
+
 /** A random user of linked frames, and what the frames show with kept pictures and without. */
 class ComparedFrames {
 public:
@@ -24,8 +29,7 @@ public:
         opened.showSideBySide();
         LinkedFrames::tie(opened.firstHelix(), u());
         for (HyperboloidFrame* frame : all) {
-            frame->setMinimumSize(1, 1);
-            frame->resize(smallSize);
+            makeSmall(*frame);
             pictures.push_back(std::make_unique<KeptPictures>(*frame));
         }
     }
@@ -164,8 +168,7 @@ TEST_P(KeptSurfaceIn, IsNotDrawnForAStep) {
     opened.showSideBySide();
     HyperboloidFrame& frame = opened.hyperboloid(GetParam());
     for (SoQtGeneralViewerFrame* shown : opened.frames()) {
-        shown->setMinimumSize(1, 1);
-        shown->resize(smallSize);
+        makeSmall(*shown);
     }
     LinkedFrames::tie(opened.firstHelix(), frame);
     frame.refresh_hypos(start);

@@ -16,6 +16,8 @@ class OpenedWindow {
 public:
     /** Large enough to use every view, and no larger: most of a test's time is drawing. */
     static constexpr QSize usualSize{760, 620};
+    /** Where the four documents have room for their smallest size side by side. */
+    static constexpr QSize roomySize{1000, 800};
 
     explicit OpenedWindow(QSize size = usualSize);
     ~OpenedWindow();

@@ -70,7 +70,6 @@ protected:
         // Many pictures are drawn of a view that need not be large.
         frame().setMinimumSize(1, 1);
         resize(QSize(310, 250));
-        pictures.drawnSurfaces();
     }
 
     void resize(const QSize& size) {
