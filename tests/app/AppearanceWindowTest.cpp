@@ -121,6 +121,27 @@ TEST(AppearanceWindowTest, ShowsTheValuesOfUAndAppliesThemToTheOthers) {
     }
 }
 
+TEST(AppearanceWindowTest, AppliesTransparencyFirstAndSaturationLast) {
+    const OpenedWindow opened;
+    HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    u.setTransparency(31, false);
+    u.setLightness(32, false);
+    u.setSaturation(33, false);
+    x.setTransparency(41, false);
+    x.setLightness(42, false);
+    x.setSaturation(43, false);
+    using Values = std::vector<double>;
+    std::vector<Values> drawn;
+    const ReplacementCounter drawings(
+        SceneReader::drawStyleBranch(*x.getSceneRoot()), HyperboloidNames::surface, [&] {
+            drawn.push_back({x.getTransparency(), x.getLightness(), x.getSaturation()});
+        });
+    const SliderWindow window = openAppearanceWindow(opened);
+    EXPECT_EQ(drawn, (std::vector<Values>{Values{0.31, 0.42, 0.43}, Values{0.31, 0.32, 0.43},
+                                          Values{0.31, 0.32, 0.33}}));
+}
+
 TEST(AppearanceWindowTest, ValueOfZeroTriggersNothingAtOpening) {
     const OpenedWindow opened;
     for (int space = 0; space < 3; ++space) {

@@ -35,6 +35,14 @@ QMenu& menu(const QMenuBar& bar, const char* title) {
     throw std::runtime_error(title);
 }
 
+QStringList names(const QMenu& menu) {
+    QStringList found;
+    for (const QAction* action : menu.actions()) {
+        found << action->objectName();
+    }
+    return found;
+}
+
 /** A main window without documents, and the commands a second time in a menu bar of their own. */
 class CommandsTest : public testing::Test {
 protected:
@@ -84,6 +92,10 @@ TEST_F(CommandsTest, MenuBarHoldsTheMenusInOrder) {
         EXPECT_EQ(texts(menu(*each, "Edit Hyperboloid").actions()),
                   (QStringList{"Change Appearance", "Change Parameters"}));
         EXPECT_EQ(texts(menu(*each, "Edit Helix").actions()), (QStringList{"Change Parameters"}));
+        // Only their menus tell apart what changes parameters.
+        EXPECT_EQ(names(menu(*each, "Edit Hyperboloid")),
+                  (QStringList{"appearanceAct", "hyperboloidParamsAct"}));
+        EXPECT_EQ(names(menu(*each, "Edit Helix")), (QStringList{"helixParamsAct"}));
         EXPECT_EQ(texts(menu(*each, "Save Data").actions()),
                   (QStringList{"U Hyperboloid", "X Hyperboloid", "M Hyperboloid", "Helix"}));
         EXPECT_EQ(texts(menu(*each, "&Help").actions()), (QStringList{"&About", "About &Qt"}));

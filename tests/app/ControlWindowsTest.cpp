@@ -33,6 +33,16 @@ const std::vector<Row> helixRows{{"&Tube Radius:", 0, 1000, 133},
 const std::vector<Row> appearanceRows{
     {"Transparency:", 0, 100, 28}, {"Lightness:", 0, 100, 56}, {"Saturation:", 0, 100, 37}};
 
+/** The values of the spin boxes of a window, from the first row. */
+std::vector<int> spinBoxValues(const QWidget& window) {
+    std::vector<int> values;
+    for (const QSpinBox* box :
+         window.findChildren<QSpinBox*>(QString(), Qt::FindDirectChildrenOnly)) {
+        values.push_back(box->value());
+    }
+    return values;
+}
+
 class ControlWindows : public testing::Test {
 protected:
     ControlWindows() {
@@ -72,6 +82,7 @@ protected:
             EXPECT_EQ(spinBox.value(), row.value) << row.label;
             EXPECT_EQ(slider.minimum(), row.minimum) << row.label;
             EXPECT_EQ(slider.maximum(), row.maximum) << row.label;
+            EXPECT_TRUE(slider.hasTracking()) << row.label;
             EXPECT_EQ(slider.singleStep(), 1) << row.label;
             EXPECT_EQ(slider.value(), row.value) << row.label;
             EXPECT_EQ(slider.orientation(), Qt::Horizontal);
@@ -90,6 +101,7 @@ protected:
             auto* rows = qobject_cast<QVBoxLayout*>(columns->itemAt(column)->layout());
             ASSERT_NE(rows, nullptr);
             ASSERT_EQ(rows->count(), rowCount);
+            EXPECT_EQ(columns->stretch(column), 0);
             for (int row = 0; row < rowCount; ++row) {
                 EXPECT_EQ(rows->stretch(row), 0);
                 EXPECT_EQ(rows->itemAt(row)->alignment(), Qt::Alignment());
@@ -123,6 +135,15 @@ TEST_F(ControlWindows, RowsHaveTheirLabelsRangesAndTheModelsTruncatedValues) {
 TEST_F(ControlWindows, LabelsSpinBoxesAndSlidersStandInThreeColumns) {
     expectColumns(*helixWindow, 5);
     expectColumns(*appearanceWindow, 3);
+}
+
+TEST_F(ControlWindows, EachPercentageOfTheAppearanceIsOneThatItsDivisionTruncates) {
+    // 57 / 100.0 times 100 is a little less than 57, 57 * 0.01 times 100 is not.
+    hyperboloid->setTransparency(57, false);
+    hyperboloid->setLightness(57, false);
+    hyperboloid->setSaturation(57, false);
+    const AppearanceWindow window(*hyperboloid, receiver.get());
+    EXPECT_EQ(spinBoxValues(window), (std::vector<int>{56, 56, 56}));
 }
 
 TEST_F(ControlWindows, EveryLabelAndSpinBoxIsReadableAtOnce) {

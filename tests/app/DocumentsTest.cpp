@@ -125,6 +125,18 @@ TEST(DocumentsTest, SetUpOpensTheThreeSpacesAndAHelixAndTilesThem) {
     }
 }
 
+TEST(DocumentsTest, EveryDocumentHasTheUsualTitleBar) {
+    ShownDocuments shown;
+    shown.documents.openHelix();
+    constexpr Qt::WindowFlags usual = Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                      Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+    ASSERT_EQ(shown.area.subWindowList().size(), 5);
+    for (const QMdiSubWindow* subWindow : shown.area.subWindowList()) {
+        EXPECT_EQ(subWindow->windowFlags() & usual, usual);
+        EXPECT_FALSE(subWindow->windowFlags().testFlag(Qt::FramelessWindowHint));
+    }
+}
+
 TEST(DocumentsTest, WhatLiesBeyondAnEdgeIsReachedByItsScrollBarAndNoOther) {
     const ShownDocuments shown;
     for (QMdiSubWindow* subWindow : shown.area.subWindowList()) {
@@ -185,6 +197,9 @@ TEST(DocumentsTest, ATitleFindsTheOldestDocumentThatBearsIt) {
     }
     frames[1]->setWindowTitle("shared");
     frames[2]->setWindowTitle("shared");
+    EXPECT_EQ(shown.documents.find("shared")->widget(), frames[1]);
+    // Not the lowest of the stack either.
+    shown.area.setActiveSubWindow(shown.area.subWindowList().at(1));
     EXPECT_EQ(shown.documents.find("shared")->widget(), frames[1]);
     EXPECT_EQ(shown.documents.find("share"), nullptr);
     EXPECT_EQ(shown.documents.find("In U Space"), nullptr);

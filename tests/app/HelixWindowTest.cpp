@@ -229,6 +229,41 @@ TEST(HelixWindowTest, ActsOnTheHelixThatIsCurrentNow) {
     EXPECT_EQ(opened.helices()[1]->getHelix().getNTurns(), 2.0F);
 }
 
+TEST(HelixWindowTest, ShowsTheHelixThatIsCurrentNow) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    opened.call("helix_change_nturns", Q_ARG(int, 3));
+    opened.call("helix_change_range", Q_ARG(int, 1250));
+    const Helix& first = opened.helices()[0]->getHelix();
+    const Helix& second = opened.helices()[1]->getHelix();
+    const SliderWindow window = openHelixWindow(opened);
+    EXPECT_EQ(window.spinBoxValues(), (std::vector<int>{99, 1250, 3, 50, 16}));
+    EXPECT_EQ(second.getNTurns(), 3.0F);
+    EXPECT_EQ(second.getRibRange(), static_cast<float>(1250 / 10000.0));
+    EXPECT_EQ(first.getNTurns(), 5.0F);
+    EXPECT_EQ(first.getRibRange(), 0.05F);
+}
+
+TEST(HelixWindowTest, GoesOnWithTheLastHelixWhenNoDocumentIsActive) {
+    const OpenedWindow opened;
+    opened.activate(opened.firstHelix());
+    const SliderWindow window = openHelixWindow(opened);
+    opened.area().setActiveSubWindow(nullptr);
+    ASSERT_EQ(opened.area().activeSubWindow(), nullptr);
+    window.type(tubeRadius, "321");
+    window.type(ribbonRange, "1234");
+    window.type(turns, "7");
+    window.type(precisionLine, "23");
+    window.type(precisionTube, "11");
+    EXPECT_EQ(modelOf(opened).getTubeR(), static_cast<float>(321 / 10000.0));
+    EXPECT_EQ(modelOf(opened).getRibRange(), static_cast<float>(1234 / 10000.0));
+    EXPECT_EQ(modelOf(opened).getNTurns(), 7.0F);
+    EXPECT_EQ(modelOf(opened).getPrecisionLine(), 23U);
+    EXPECT_EQ(modelOf(opened).getPrecisionTube(), 11U);
+    const SliderWindow another = openHelixWindow(opened);
+    EXPECT_TRUE(another.isAlive());
+}
+
 TEST(HelixWindowTest, ChangesNothingWhileAHyperboloidIsActive) {
     const OpenedWindow opened;
     const SliderWindow window = openHelixWindow(opened);

@@ -128,6 +128,26 @@ TEST(MainWindowTest, FirstHelixIsMadeFromVertexZeroOfU) {
     EXPECT_EQ(helix.getHelixColor(), expected.getHelixColor());
 }
 
+TEST(MainWindowTest, SlotsThatMakeDocumentsMakeThoseThatTheyAreAskedFor) {
+    const OpenedWindow opened;
+    HyperboloidFrame* surface = nullptr;
+    opened.call("createHyperboloid", Q_RETURN_ARG(HyperboloidFrame*, surface),
+                Q_ARG(int, Hyperboloid::MSPACE), Q_ARG(const char*, "another of M"));
+    ASSERT_NE(surface, nullptr);
+    EXPECT_EQ(surface->WichSpace(), Hyperboloid::MSPACE);
+    EXPECT_EQ(surface->viewerTitle(), "another of M");
+    HelixFrame* closable = nullptr;
+    opened.call("createHelix", Q_RETURN_ARG(HelixFrame*, closable));
+    ASSERT_NE(closable, nullptr);
+    EXPECT_EQ(opened.window().getHelixCount(), 2);
+    EXPECT_TRUE(opened.subWindow(*closable).close());
+    HelixFrame* lasting = nullptr;
+    opened.call("createHelix", Q_RETURN_ARG(HelixFrame*, lasting), Q_ARG(bool, false));
+    ASSERT_NE(lasting, nullptr);
+    EXPECT_FALSE(opened.subWindow(*lasting).close());
+    lasting->setClosableAlone(true);
+}
+
 TEST(MainWindowTest, NewHelixHasRoomToBeDrawn) {
     const OpenedWindow opened;
     opened.action("newAct").trigger();

@@ -183,7 +183,9 @@ TEST(MenusTest, KeysOfTheKeyboardWalkThroughTheFramesBothWays) {
 TEST(MenusTest, AboutBoxHasItsTitleAndText) {
     const OpenedWindow opened;
     DialogDriver()
-        .then<QMessageBox>([](QMessageBox& box) {
+        .then<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.parent(), &opened.window());
+            EXPECT_EQ(box.icon(), QMessageBox::NoIcon) << "it shows the program's, or nothing";
             EXPECT_EQ(box.windowTitle(), "About MDI");
             EXPECT_EQ(box.text(), "The <b>Lumarin</b> example shows how to use multiple Coin3D "
                                   "viewers with SoQt.");

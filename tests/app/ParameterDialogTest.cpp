@@ -83,6 +83,20 @@ TEST(ParameterDialogTest, IsModalUntitledAndBelongsToTheMainWindow) {
                      }});
 }
 
+TEST(ParameterDialogTest, ShowsTheValuesOfU) {
+    const OpenedWindow opened;
+    HyperboloidParameters parameters = HyperboloidParameters::of(opened.hyperboloid(0));
+    for (int space = 0; space < 3; ++space) {
+        parameters.K1 = 1.11 + 0.01 * space;
+        opened.hyperboloid(space).setParameters(parameters);
+        opened.hyperboloid(space).reDraw(true, true);
+    }
+    answerParameters(opened, {[&](QWidget& dialog) {
+                         EXPECT_EQ(field(dialog, "K1 :").text(), "1.11");
+                         pressEscape(dialog);
+                     }});
+}
+
 TEST(ParameterDialogTest, AcceptedValuesReachAllThreeModels) {
     const OpenedWindow opened;
     answerParameters(opened, {enter(distinctValues)});

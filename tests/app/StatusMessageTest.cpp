@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -27,6 +28,8 @@ protected:
     }
     void step(Qt::Key key) { QTest::keyClick(menu, key); }
     QString shown() { return window.statusBar()->currentMessage(); }
+    /** The toolkit keeps a timer below the status bar for a message that is to vanish. */
+    bool willVanish() const { return !window.statusBar()->findChildren<QTimer*>().isEmpty(); }
 
     QMainWindow window;
     QMenu* menu;
@@ -38,8 +41,11 @@ protected:
 } // namespace
 
 TEST_F(StatusMessageTest, StandsUntilTheNextOne) {
+    window.statusBar()->showMessage("soon gone", 60000);
+    EXPECT_TRUE(willVanish());
     message.say("first");
     EXPECT_EQ(shown(), "first");
+    EXPECT_FALSE(willVanish());
     message.say(std::nullopt);
     EXPECT_EQ(shown(), "first");
     message.say("second");
@@ -55,6 +61,7 @@ TEST_F(StatusMessageTest, GivesWayToTipsAndComesBack) {
     EXPECT_EQ(shown(), "What it does");
     step(Qt::Key_Down);
     EXPECT_EQ(shown(), "said before");
+    EXPECT_FALSE(willVanish());
     step(Qt::Key_Up);
     EXPECT_EQ(shown(), "What it does");
     step(Qt::Key_Escape);

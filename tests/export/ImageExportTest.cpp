@@ -75,6 +75,13 @@ protected:
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("view.eps"));
     }
 
+    /** Prints a root as a frame's viewer would show it, without any dialog. */
+    void print(SoNode& root, SoQtGeneralViewerFrame& frame, int dotsPerInch) const {
+        std::FILE* file = std::fopen(path().toLocal8Bit().constData(), "w");
+        EXPECT_TRUE(opened.window().printToPostScript(&root, file, frame.getViewer(), dotsPerInch));
+        std::fclose(file);
+    }
+
     const QByteArray older = "an older picture";
 };
 
@@ -86,6 +93,8 @@ TEST(PrintSize, IsWholeInchesAtThePrintersResolution) {
     EXPECT_EQ(ImageExport::printSize(SbVec2s(71, 600), 72, printer), SbVec2s(0, 2400));
     EXPECT_EQ(ImageExport::printSize(SbVec2s(72, 143), 72, printer), SbVec2s(300, 300));
     EXPECT_EQ(ImageExport::printSize(SbVec2s(3840, 2160), 100, printer), SbVec2s(11400, 6300));
+    // Of 33,300 dots a 16-bit number keeps the rest.
+    EXPECT_EQ(ImageExport::printSize(SbVec2s(8000, 600), 72, printer), SbVec2s(-32236, 2400));
 }
 
 TEST_F(ImageExportTest, DialogAsksForAPostScriptFile) {
@@ -227,6 +236,32 @@ TEST_F(ImageExportTest, PlanesEncloseTheSceneAsLargeAsItIsOnTheScreen) {
         EXPECT_EQ(size, onScreen);
     }
     u.getSceneRoot()->removeChild(measure);
+}
+
+TEST_F(ImageExportTest, PictureOfAnotherPrinterHasItsResolution) {
+    closeAfterwards();
+    constexpr int coarsePrinter = 150;
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    resizeToWholeInches(u, 5, 3);
+    print(*u.getSceneRoot(), u, coarsePrinter);
+    const QByteArray file = saved();
+    EXPECT_EQ(linesWith(file, "BoundingBox"), QList<QByteArray>{"%%BoundingBox: 0 0 360 216"});
+    EXPECT_EQ(linesWith(file, "/image_dpi "), QList<QByteArray>{"/image_dpi 150.0 def"});
+    EXPECT_EQ(linesWith(file, "/image_wd "), QList<QByteArray>{"/image_wd 750 def"});
+    EXPECT_EQ(linesWith(file, "/image_ht "), QList<QByteArray>{"/image_ht 450 def"});
+}
+
+TEST_F(ImageExportTest, PrintsTheGivenRootAndNotTheScreens) {
+    const NodePointer<SoSeparator> empty(new SoSeparator);
+    HyperboloidFrame& u = opened.hyperboloid(0);
+    u.getViewer()->setBackgroundColor(SbColor(0.2F, 0.4F, 0.6F));
+    print(*empty, u, printer);
+    u.getViewer()->setBackgroundColor(SbColor(0, 0, 0));
+    QImage background = drawn();
+    ASSERT_FALSE(background.isNull());
+    const QImage print = background;
+    background.fill(QColor(51, 102, 153));
+    EXPECT_EQ(print, background);
 }
 
 TEST_F(ImageExportTest, PictureOfLessThanAPixelFailsAndWritesNothing) {

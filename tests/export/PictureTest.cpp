@@ -235,6 +235,20 @@ TEST_F(PictureTest, SurfacesSeenThroughAreBlendedAsOnTheScreen) {
     }
 }
 
+TEST_F(PictureTest, LightThatHasGoneShinesOnAsOnTheScreen) {
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    resizeToWholeInches(x, 5, 4);
+    auto* light = new SoDirectionalLight;
+    light->color = SbColor(0.7F, 0.2F, 0.4F);
+    light->direction = SbVec3f(1, -0.3F, -0.5F);
+    const QImage without = screenOf(x);
+    x.getSceneRoot()->insertChild(light, 0);
+    screenOf(x);
+    x.getSceneRoot()->removeChild(light);
+    EXPECT_GT(difference(screenOf(x), without, x), filledTolerance);
+    expectLikeTheScreen(x, "a light that has gone");
+}
+
 TEST_F(PictureTest, HeadlightThatIsSwitchedOffShinesOnAsOnTheScreen) {
     HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
     resizeToWholeInches(x, 5, 4);

@@ -115,6 +115,21 @@ TEST(HelixFrameTest, RefreshTakesOverThePointAndShowsItsCoordinates) {
     EXPECT_EQ(SceneReader::child<SoMaterial>(*lone.ribbon(), 0)->diffuseColor[0], SbColor(1, 0, 1));
 }
 
+TEST(HelixFrameTest, NumbersOfItsMakingAndOfARefreshEachReachTheirPlace) {
+    HelixFrame frame(0.7F, -0.3F, 0.2F, 0.1F, 0.6F, 0.9F, 23, false, nullptr);
+    EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.1F, 0.6F, 0.9F}));
+    EXPECT_EQ(frame.getHelix().getTorsion(), 0.2F);
+    EXPECT_EQ(frame.getHelix().getPhi(), Helix(0.7F, -0.3F, 0.2F, 0, 0, 0).getPhi());
+    EXPECT_EQ(frame.getIndex(), 23);
+    frame.initialize();
+    frame.refresh(-0.25F, 0.5F, 1.5F, 31, 0.8F, 0.4F, 0.3F);
+    EXPECT_EQ(frame.getHelix().getHelixColor(), (FloatTriple{0.8F, 0.4F, 0.3F}));
+    EXPECT_EQ(frame.getHelix().getTorsion(), 1.5F);
+    EXPECT_EQ(frame.getHelix().getPhi(), Helix(-0.25F, 0.5F, 1.5F, 0, 0, 0).getPhi());
+    EXPECT_EQ(frame.getIndex(), 31);
+    EXPECT_FALSE(frame.close()) << "it does not close alone";
+}
+
 TEST(HelixFrameTest, RefreshShowsTheCoordinatesBeforeItSamplesTheTables) {
     LookingOwner owner;
     HelixFrame frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, &owner);

@@ -60,6 +60,28 @@ TEST(HelixParameters, IsMadeFromCurvatureAndTorsion) {
     EXPECT_EQ(helix.getNbLineVertices(), 50U);
 }
 
+TEST(HelixParameters, CurvatureAndTorsionOffTheUnitCircleGiveRadiusPitchAndSpeed) {
+    const Helix helix(0.3F, 0.4F, 1.7F, 7, false);
+    EXPECT_NEAR(helix.getRadius(), 1.2F, 1e-6F);
+    EXPECT_NEAR(helix.getPitch(), 1.6F, 1e-6F);
+    EXPECT_NEAR(helix.getOmega(), 0.5F, 1e-6F);
+    EXPECT_EQ(helix.getNbLineVertices(), 85U);
+}
+
+TEST(HelixParameters, GivenTurnsAreThoseOfItsTables) {
+    // It begins beside the first axis and rises by the pitch for each unit of the angle.
+    const Helix helix(3, 4, 2.5F, 9, true);
+    constexpr float halfAngle = 2.5F * 2 * halfPi;
+    EXPECT_EQ(helix.getNTurns(), 2.5F);
+    EXPECT_EQ(helix.getLineVertex(0, 0), 3);
+    EXPECT_NEAR(helix.getLineVertex(0, 2), -4 * halfAngle, 1e-4F);
+    EXPECT_NEAR(helix.getLineVertex(124, 2), 4 * halfAngle, 1e-4F);
+    for (const std::size_t place : {0U, 1124U}) {
+        const auto& [x, y, z] = helix.getTubeVertices()[place];
+        EXPECT_NEAR(std::hypot(x, y), 3, 0.02F) << place;
+    }
+}
+
 TEST(HelixParameters, PointGivesCurvatureTorsionAndColour) {
     Helix helix;
     EXPECT_TRUE(helix.refresh_param(3, 4, 5, 0.1F, 0.2F, 0.3F));

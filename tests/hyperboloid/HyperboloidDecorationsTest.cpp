@@ -2,6 +2,7 @@
 
 #include "tests/hyperboloid/ExposedHyperboloid.h"
 #include "tests/hyperboloid/SceneReading.h"
+#include "tests/reference/PlainVector.h"
 
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoIndexedFaceSet.h>
@@ -172,6 +173,9 @@ void expectDiffuseColorOnly(const SoMaterial* material, const std::vector<float>
     EXPECT_EQ(valuesOf(material->diffuseColor), color);
     EXPECT_EQ(valuesOf(material->ambientColor), valuesOf(untouched->ambientColor));
     EXPECT_EQ(valuesOf(material->specularColor), valuesOf(untouched->specularColor));
+    EXPECT_EQ(valuesOf(material->emissiveColor), valuesOf(untouched->emissiveColor));
+    EXPECT_EQ(material->shininess[0], untouched->shininess[0]);
+    EXPECT_EQ(material->transparency[0], untouched->transparency[0]);
 }
 
 void expectMarker(SoSeparator* marker, const char* name, const Point& position,
@@ -214,6 +218,22 @@ TEST(HyperboloidNormals, AreUnitVectorsPerpendicularToTheVectorAndEachOther) {
         EXPECT_NEAR(nA * toVecteur(v), 0.0, 1e-14);
         EXPECT_NEAR(nB * toVecteur(v), 0.0, 1e-14);
     }
+}
+
+TEST(HyperboloidNormals, SecondIsTheProductWithTheFirstAsItIsBeforeItsLengthIsTaken) {
+    const PlainVector v{1.1, 2.3, -0.7};
+    const PlainVector first{-v[1], v[0], 0.0};
+    const PlainVector second{v[1] * first[2] - v[2] * first[1], v[2] * first[0] - v[0] * first[2],
+                             v[0] * first[1] - v[1] * first[0]};
+    const auto unit = [](const PlainVector& vector) {
+        const double length = std::sqrt(dotProduct(vector, vector));
+        return Point{vector[0] / length, vector[1] / length, vector[2] / length};
+    };
+    Vecteur nA(3);
+    Vecteur nB(3);
+    HyperboloidDecorations::findNormals(Vecteur(v[0], v[1], v[2]), nA, nB);
+    EXPECT_EQ(coordinates(nA), unit(first));
+    EXPECT_EQ(coordinates(nB), unit(second));
 }
 
 TEST(HyperboloidTube, RunsFromAToBWithTwoClosedRings) {
@@ -335,6 +355,27 @@ TEST(HyperboloidU3Axis, InUSpaceIsABlueTubeWithItsArrowAtTheNegativeEnd) {
     const SoMFVec3f& points = childAs<SoCoordinate3>(cone, 1)->point;
     EXPECT_EQ(points[0], SbVec3f(0.0F, 0.0F, static_cast<float>(-7.0 - double{0.14F})));
     EXPECT_EQ(points[31], SbVec3f(0.0F, 0.0F, -7.0F));
+}
+
+TEST(HyperboloidU3Axis, WithoutLengthItsTubeIsARingAndItsArrowPointsNowhere) {
+    for (const int space : allSpaces) {
+        ExposedHyperboloid hyperboloid(ordinary, space);
+        const NodePointer<SoSeparator> axis(hyperboloid.DrawU3Axis(0.0F, 0.03F));
+        for (const float value :
+             valuesOf(childAs<SoCoordinate3>(childAs<SoSeparator>(axis.get(), 0), 1)->point)) {
+            EXPECT_TRUE(std::isfinite(value));
+        }
+        // A direction without length has none, nor have the apex and the rim around it a place.
+        const SoMFVec3f& cone =
+            childAs<SoCoordinate3>(childAs<SoSeparator>(axis.get(), 1), 1)->point;
+        ASSERT_EQ(cone.getNum(), 32);
+        for (int c = 0; c < 3; ++c) {
+            for (int k = 0; k <= 30; ++k) {
+                EXPECT_TRUE(std::isnan(cone[k][c])) << k;
+            }
+            EXPECT_TRUE(std::isfinite(cone[31][c]));
+        }
+    }
 }
 
 TEST(HyperboloidU3Axis, EndsAreCarriedInDouble) {

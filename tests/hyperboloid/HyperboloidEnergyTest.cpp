@@ -46,6 +46,13 @@ TEST(HyperboloidEnergy, EnergyUsesTheDoubleMatrixAndTheDoubleUHat) {
     EXPECT_EQ(hyperboloid.compute_energy({0.7F, 1.0F, 1.0F}), 0.1 * w * w);
 }
 
+TEST(HyperboloidEnergy, EveryEntryOfTheMatrixAndEveryCoordinateCounts) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.set_k_uHat(2, 3, 11, 5, 7, 1, 2, 3);
+    // w = (1, 3, 4) and K w = (2 + 5 4, 3 3 + 7 4, 5 + 7 3 + 11 4).
+    EXPECT_EQ(hyperboloid.compute_energy({2, 5, 7}), 22.0 * 1 + 37.0 * 3 + 70.0 * 4);
+}
+
 TEST(HyperboloidEnergy, EnergyOfUHatItselfIsZero) {
     ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
     EXPECT_EQ(hyperboloid.compute_energy({1.0F, 0.0F, 0.0F}), 0.0);
@@ -168,6 +175,18 @@ TEST(HyperboloidColors, TheModelReadsItsSettingsWhenItColours) {
     float rgb[3];
     hyperboloid.computeColorForPoint(0.5F, rgb);
     EXPECT_EQ(rgb[1], 0.25F);
+}
+
+TEST(HyperboloidColors, TheModelsColourOfAnEnergyIsThatOfThePalette) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::USPACE);
+    hyperboloid.saturation = 0.6;
+    hyperboloid.lightness = 0.4;
+    float rgb[3];
+    // Chroma 0.48 around 0.4, 11/24 of the way around from red: between green and cyan.
+    hyperboloid.computeColorForPoint(0.3125F, rgb);
+    EXPECT_FLOAT_EQ(rgb[0], 0.16F);
+    EXPECT_FLOAT_EQ(rgb[1], 0.64F);
+    EXPECT_FLOAT_EQ(rgb[2], 0.52F);
 }
 
 TEST(HyperboloidColors, RecolouringReadsTheStoredEnergies) {

@@ -131,6 +131,51 @@ TEST(HyperboloidFrameTest, RedrawReplacesSurfaceAndDecorationsAndKeepsSpheresAnd
     EXPECT_EQ(surfaces.take(), 1);
 }
 
+TEST(HyperboloidFrameTest, SpheresKeepTheirPlaceAndColourWhenSurfacesAreRecoloured) {
+    constexpr int place = 777;
+    const LinkedFrames opened;
+    const HelixFrame& helix = opened.firstHelix();
+    for (int space = 0; space < 3; ++space) {
+        LinkedFrames::tie(opened.firstHelix(), opened.hyperboloid(space));
+    }
+    opened.hyperboloid(Hyperboloid::USPACE).refresh_hypos(place);
+    opened.hyperboloid(Hyperboloid::USPACE).refresh_helix(place);
+    for (int space = 0; space < 3; ++space) {
+        HyperboloidFrame& frame = opened.hyperboloid(space);
+        const SoSeparator* sphere = SceneReader::childNamed(phongBranch(frame), helix.getName());
+        const SoMaterial& material = *SceneReader::child<SoMaterial>(*sphere, 0);
+        const SbColor before = material.diffuseColor[0];
+        EXPECT_EQ(before, color(frame, place));
+        frame.setSaturation(10, true);
+        frame.setLightness(25, true);
+        frame.setTransparency(30, true);
+        frame.reDraw(true, true);
+        EXPECT_EQ(SceneReader::childNamed(phongBranch(frame), helix.getName()), sphere);
+        EXPECT_EQ(material.diffuseColor[0], before);
+        EXPECT_NE(color(frame, place), before);
+    }
+}
+
+TEST(HyperboloidFrameTest, EachNumberOfItsMakingReachesItsPlace) {
+    RecordingOwner owner;
+    auto frame =
+        std::make_unique<HyperboloidFrame>(1.37F, 1.91F, 2.23F, 0.61F, -0.43F, 0.83F, -0.29F, 0.17F,
+                                           Hyperboloid::MSPACE, true, &owner);
+    Hyperboloid model(1.37F, 1.91F, 2.23F, 0.61F, -0.43F, 0.83F, -0.29F, 0.17F,
+                      Hyperboloid::MSPACE);
+    EXPECT_EQ(frame->getK(3), 0.61F);
+    EXPECT_EQ(frame->getK(4), -0.43F);
+    EXPECT_EQ(frame->getU(1), -0.29F);
+    EXPECT_EQ(frame->getU(2), 0.17F);
+    for (int c = 0; c < 3; ++c) {
+        EXPECT_EQ(frame->getVertex(1234, c), model.getVertex(1234, c));
+    }
+    frame->initialize();
+    frame->setTitle("heard of");
+    EXPECT_EQ(owner.titleChanges, 1);
+    EXPECT_TRUE(frame->close()) << "it closes alone";
+}
+
 TEST(HyperboloidFrameTest, XAndMWearTheColoursOfU) {
     const LinkedFrames opened;
     HyperboloidFrame& u = opened.hyperboloid(Hyperboloid::USPACE);

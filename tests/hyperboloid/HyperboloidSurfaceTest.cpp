@@ -65,6 +65,15 @@ TEST(HyperboloidSurface, SwappedAxesPutTheHeightIntoTheSecondCoordinate) {
     }
 }
 
+TEST(HyperboloidSurface, RunsOverTheModelsRangeOfHeights) {
+    ExposedHyperboloid hyperboloid(startUp, Hyperboloid::XSPACE);
+    hyperboloid.tRange = 2.75F;
+    hyperboloid.regenerate(startUp, 9, 5);
+    for (int k = 0; k < 45; ++k) {
+        EXPECT_EQ(hyperboloid.getVertex(k, 1), 2.75F * static_cast<float>(k % 5) - 5.5F) << k;
+    }
+}
+
 TEST(HyperboloidSurface, EachSemiAxisScalesItsOwnCoordinate) {
     for (const bool swapAxes : {false, true}) {
         const HyperboloidSurface::Parameters parameters{

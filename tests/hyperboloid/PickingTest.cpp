@@ -10,9 +10,11 @@
 #include <Inventor/actions/SoSearchAction.h>
 #include <Inventor/events/SoMouseButtonEvent.h>
 #include <Inventor/nodes/SoCoordinate3.h>
+#include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoSeparator.h>
 #include <gtest/gtest.h>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -42,11 +44,14 @@ public:
 
     std::optional<int> vertex() const {
         const SoPickedPoint* point = pick.getPickedPoint();
-        if (point == nullptr || !frame->is_point_in_hyperboloid(point)) {
+        if (point == nullptr || point->getPath()->getTail()->getName() != "HyperboloidMesh") {
             return std::nullopt;
         }
-        return frame->get_index(point);
+        return point->getMaterialIndex();
     }
+
+    /** What the frame takes the nearest point for. */
+    int frameIndex() const { return frame->get_index(pick.getPickedPoint()); }
 
     /** Whether what is in front belongs to a node of this name. */
     bool isIn(const SbName& name) const {
@@ -64,13 +69,13 @@ private:
     SoRayPickAction pick;
 };
 
-/** A place where the surface is in front, off the middle of the grid. */
+/** A place where the surface is in front, off the middle of the grid, at an odd vertex. */
 Target findTarget(const HyperboloidFrame& frame) {
     const QWidget& widget = ViewDriver(const_cast<HyperboloidFrame&>(frame)).widget();
     for (int y = widget.height() / 3; y < widget.height(); y += 7) {
         for (int x = widget.width() / 3; x < widget.width(); x += 7) {
             const std::optional<int> index = PickAt(frame, QPoint(x, y)).vertex();
-            if (index && *index != 0) {
+            if (index && *index % 2 == 1) {
                 return {*index, QPoint(x, y)};
             }
         }
@@ -170,6 +175,21 @@ TEST_P(PickingIn, RightButtonMovesTheSphereInAllSpacesAndReshapesTheHelix) {
     EXPECT_EQ(opened.owner().titleChanges, titleChanges + 1);
 }
 
+TEST_P(PickingIn, IndexIsTheLibrarysWhereverTheSurfaceIsInFront) {
+    std::set<int> indices;
+    const QWidget& widget = ViewDriver(frame).widget();
+    for (int y = 0; y < widget.height(); y += 13) {
+        for (int x = 0; x < widget.width(); x += 11) {
+            const PickAt pick(frame, QPoint(x, y));
+            if (const std::optional<int> vertex = pick.vertex()) {
+                EXPECT_EQ(pick.frameIndex(), *vertex) << x << " " << y;
+                indices.insert(*vertex);
+            }
+        }
+    }
+    EXPECT_GT(indices.size(), 50U);
+}
+
 TEST_P(PickingIn, LeftButtonPicksInPickingModeOnly) {
     const Target target = findTarget(frame);
     const ViewDriver driver(frame);
@@ -243,26 +263,30 @@ TEST_P(PickingIn, EveryDirectionKeySteps) {
         Qt::KeyboardModifier modifier;
         int direction;
     };
-    const QWidget& widget = ViewDriver(frame).widget();
-    for (const Step& step : {Step{Qt::Key_W, Qt::NoModifier, HyperboloidFrame::UP},
-                             Step{Qt::Key_Up, Qt::NoModifier, HyperboloidFrame::UP},
-                             Step{Qt::Key_8, Qt::KeypadModifier, HyperboloidFrame::UP},
-                             Step{Qt::Key_S, Qt::NoModifier, HyperboloidFrame::DOWN},
-                             Step{Qt::Key_Down, Qt::NoModifier, HyperboloidFrame::DOWN},
-                             Step{Qt::Key_2, Qt::KeypadModifier, HyperboloidFrame::DOWN},
-                             Step{Qt::Key_D, Qt::NoModifier, HyperboloidFrame::RIGHT},
-                             Step{Qt::Key_Right, Qt::NoModifier, HyperboloidFrame::RIGHT},
-                             Step{Qt::Key_6, Qt::KeypadModifier, HyperboloidFrame::RIGHT},
-                             Step{Qt::Key_A, Qt::NoModifier, HyperboloidFrame::LEFT},
-                             Step{Qt::Key_Left, Qt::NoModifier, HyperboloidFrame::LEFT},
-                             Step{Qt::Key_4, Qt::KeypadModifier, HyperboloidFrame::LEFT}}) {
-        frame.refresh_helix(64 * 10 + 20);
-        frame.moveSphere(step.direction);
-        const int expected = helix.getIndex();
-        EXPECT_NE(expected, 64 * 10 + 20);
-        frame.refresh_helix(64 * 10 + 20);
-        QTest::keyClick(const_cast<QWidget*>(&widget), step.key, step.modifier);
-        EXPECT_EQ(helix.getIndex(), expected) << "key " << step.key;
+    const ViewDriver driver(frame);
+    const std::vector<Step> steps{Step{Qt::Key_W, Qt::NoModifier, HyperboloidFrame::UP},
+                                  Step{Qt::Key_Up, Qt::NoModifier, HyperboloidFrame::UP},
+                                  Step{Qt::Key_8, Qt::KeypadModifier, HyperboloidFrame::UP},
+                                  Step{Qt::Key_S, Qt::NoModifier, HyperboloidFrame::DOWN},
+                                  Step{Qt::Key_Down, Qt::NoModifier, HyperboloidFrame::DOWN},
+                                  Step{Qt::Key_2, Qt::KeypadModifier, HyperboloidFrame::DOWN},
+                                  Step{Qt::Key_D, Qt::NoModifier, HyperboloidFrame::RIGHT},
+                                  Step{Qt::Key_Right, Qt::NoModifier, HyperboloidFrame::RIGHT},
+                                  Step{Qt::Key_6, Qt::KeypadModifier, HyperboloidFrame::RIGHT},
+                                  Step{Qt::Key_A, Qt::NoModifier, HyperboloidFrame::LEFT},
+                                  Step{Qt::Key_Left, Qt::NoModifier, HyperboloidFrame::LEFT},
+                                  Step{Qt::Key_4, Qt::KeypadModifier, HyperboloidFrame::LEFT}};
+    for (const bool picking : {false, true}) {
+        driver.setPickingMode(picking);
+        for (const Step& step : steps) {
+            frame.refresh_helix(64 * 10 + 20);
+            frame.moveSphere(step.direction);
+            const int expected = helix.getIndex();
+            EXPECT_NE(expected, 64 * 10 + 20);
+            frame.refresh_helix(64 * 10 + 20);
+            QTest::keyClick(&driver.widget(), step.key, step.modifier);
+            EXPECT_EQ(helix.getIndex(), expected) << "key " << step.key;
+        }
     }
 }
 
@@ -274,6 +298,38 @@ TEST_P(PickingIn, DirectionKeyWithoutATiedHelixNeverReachesTheExaminer) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EverySpace, PickingIn, testing::Values(0, 1, 2));
+
+TEST(Picking, VertexZeroIsAVertexLikeAnyOther) {
+    const LinkedFrames opened;
+    opened.showSideBySide();
+    HyperboloidFrame& x = opened.hyperboloid(Hyperboloid::XSPACE);
+    HelixFrame& helix = opened.firstHelix();
+    LinkedFrames::tie(helix, x);
+    x.refresh_hypos(2000);
+    x.refresh_helix(2000);
+    const SbVec3f place(x.getVertex(0, 0), x.getVertex(0, 1), x.getVertex(0, 2));
+    auto& camera = dynamic_cast<SoOrthographicCamera&>(*x.getViewer()->getCamera());
+    camera.position = place + SbVec3f(20, 0, 0);
+    camera.pointAt(place);
+    camera.height = 3;
+    x.getViewer()->render();
+    const ViewDriver driver(x);
+    const QPoint middle = driver.positionOf(place);
+    // Beside it, beyond the seam, the last vertex of the row has the same place.
+    std::optional<QPoint> found;
+    for (int beside = -15; beside <= 15 && !found; ++beside) {
+        for (int above = -15; above <= 15 && !found; ++above) {
+            const QPoint position = middle + QPoint(beside, above);
+            if (PickAt(x, position).vertex() == 0) {
+                found = position;
+            }
+        }
+    }
+    ASSERT_TRUE(found.has_value());
+    EXPECT_EQ(sendButton(x, rightButton, SoButtonEvent::UP, *found), 1);
+    EXPECT_EQ(helix.getIndex(), 0);
+    EXPECT_EQ(spherePosition(x, helix), place);
+}
 
 TEST(Picking, ScenesTellTheMeshFromEverythingElse) {
     const LinkedFrames opened;

@@ -46,6 +46,17 @@ Matrice withFourColumns() {
     return m;
 }
 
+/** A matrix of rows of two. */
+Matrice withTwoColumns() {
+    Matrice m;
+    for (int i = 0; i < 3; ++i) {
+        m[i] = Vecteur(2);
+        m[i][0] = 3 * i + 1;
+        m[i][1] = 3 * i + 2;
+    }
+    return m;
+}
+
 std::string printed(const Matrice& m) {
     std::ostringstream out;
     out << m;
@@ -224,6 +235,31 @@ TEST(Matrice, SizesThatDoNotFitThrowTheirTexts) {
               "Multiplication Matrice*Vecteur Erreur: dimensions fausses.");
     EXPECT_EQ(thrownBy([&] { m + wide; }), "Somme matrice Erreur: dimensions pas egales.");
     EXPECT_EQ(thrownBy([&] { m - wide; }), "Difference matrice Erreur: dimensions pas egales.");
+}
+
+TEST(Matrice, SizesThatDoNotFitTheOtherWayRoundThrowTheSameTexts) {
+    Matrice m;
+    Matrice narrow = withTwoColumns();
+    Matrice wide = withFourColumns();
+    EXPECT_EQ(thrownBy([&] { narrow* m; }),
+              "Multiplication matrice Erreur: colonnes et lignes ne correspondent pas.");
+    EXPECT_EQ(thrownBy([&] { m* Vecteur(4); }),
+              "Multiplication Matrice*Vecteur Erreur: dimensions fausses.");
+    EXPECT_EQ(thrownBy([&] { wide + m; }), "Somme matrice Erreur: dimensions pas egales.");
+    EXPECT_EQ(thrownBy([&] { wide - m; }), "Difference matrice Erreur: dimensions pas egales.");
+}
+
+TEST(Matrice, ProductWithAVectorIsOfTheVectorsDimension) {
+    Vecteur v(2);
+    v[0] = 3;
+    v[1] = -2;
+    Vecteur product = withTwoColumns() * v;
+    ASSERT_EQ(product.size(), 2);
+    EXPECT_EQ(product[0], 1.0 * 3 + 2.0 * -2);
+    EXPECT_EQ(product[1], 4.0 * 3 + 5.0 * -2);
+    // Of four columns the fourth row is missing.
+    EXPECT_EQ(thrownBy([&] { withFourColumns() * Vecteur(4); }),
+              "Surcharge [] Erreur: dimension fausse.");
 }
 
 TEST(Matrice, ProductRunsItsFirstIndexOverTheColumnsOfTheSecondFactor) {

@@ -167,6 +167,8 @@ TEST(Vecteur, OppositeLeavesTheVector) {
 TEST(Vecteur, ModuleIsTheNorm) {
     EXPECT_EQ(Vecteur(3, 4, 0).Module(), 5);
     EXPECT_EQ(Vecteur(0).Module(), 0.0);
+    EXPECT_EQ(Vecteur(0.1, 0.37, -2.9).Module(),
+              std::sqrt((0.1 * 0.1 + 0.37 * 0.37) + -2.9 * -2.9));
 }
 
 TEST(Vecteur, NormalisationGivesLengthOne) {
@@ -237,6 +239,20 @@ TEST(Vecteur, UnequalDimensionsThrowTheirTexts) {
               "Difference de vecteurs Erreur: dimensions pas egales");
     EXPECT_EQ(thrownBy([&] { two.Angle(three); }), "Angle Erreur: dimensions pas egales.");
     EXPECT_EQ(two, counting(2));
+}
+
+TEST(Vecteur, LongerOneOnTheLeftThrowsTheSameTexts) {
+    const Vecteur two = counting(2);
+    Vecteur three = counting(3);
+    EXPECT_EQ(thrownBy([&] { three* two; }), "Produit Scalaire Erreur: dimensions pas egales");
+    EXPECT_EQ(thrownBy([&] { three + two; }), "Somme de vecteurs Erreur: dimensions pas egales");
+    EXPECT_EQ(thrownBy([&] { three += two; }), "Somme de vecteurs Erreur: dimensions pas egales");
+    EXPECT_EQ(thrownBy([&] { three - two; }),
+              "Difference de vecteurs Erreur: dimensions pas egales");
+    EXPECT_EQ(thrownBy([&] { three -= two; }),
+              "Difference de vecteurs Erreur: dimensions pas egales");
+    EXPECT_EQ(thrownBy([&] { three.Angle(two); }), "Angle Erreur: dimensions pas egales.");
+    EXPECT_EQ(three, counting(3));
 }
 
 TEST(Vecteur, PrintsItsCoordinates) {

@@ -192,4 +192,7 @@ TEST(Program, WindowManagerClosesItAndItsGeometryIsStored) {
     ASSERT_TRUE(viewer.waitForWindow());
     ASSERT_TRUE(viewer.keyUntilEnd("alt+F4"));
     expectGoodEndAndStored(viewer, "size=@Size(400 400)");
+    // With its frame: otherwise it would wander by its title bar at every start.
+    EXPECT_TRUE(viewer.storedSettings().contains("pos=@Point(200 200)"))
+        << qPrintable(viewer.storedSettings());
 }

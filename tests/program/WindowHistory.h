@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QSize>
+#include <QImage>
+#include <QRect>
 #include <QString>
 #include <map>
 #include <memory>
@@ -21,16 +22,19 @@ public:
         unsigned long window;
         bool shown;
         /** When it was shown. */
-        QSize size;
+        QRect place;
     };
 
     /** All windows without another around them that were shown or hidden so far, in order. */
     const std::vector<Change>& changes();
 
+    /** What a part of the display shows at this moment. */
+    QImage picture(const QRect& part) const;
+
 private:
     struct Connection;
 
     std::unique_ptr<Connection> connection;
-    std::map<unsigned long, QSize> sizes;
+    std::map<unsigned long, QRect> places;
     std::vector<Change> all;
 };

@@ -5,6 +5,7 @@
 #include <QResource>
 #include <QSet>
 #include <gtest/gtest.h>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,13 @@ void expectInOrder(const char* path, const std::vector<std::string>& parts) {
         ASSERT_NE(position, std::string::npos) << path << " lacks, or has elsewhere: " << part;
         position += part.size();
     }
+}
+
+/** What a text does: without its comments, and with one blank for any number. */
+std::string statementsOf(const char* path) {
+    static const std::regex comment(R"(/\*[^]*?\*/|//[^\n]*)");
+    static const std::regex blanks(R"(\s+)");
+    return std::regex_replace(std::regex_replace(bytesOf(path), comment, ""), blanks, " ");
 }
 
 struct Picture {
@@ -168,6 +176,45 @@ TEST(Resources, SolidShadersSayAndDoTheirSteps) {
     expectInOrder(":/solid.frag.glsl",
                   {"Per pixel fragment shader with colour simply set to gl_Color.",
                    "gl_FragColor = gl_Color;"});
+}
+
+TEST(Resources, ShadersDoNothingBesides) {
+    EXPECT_EQ(statementsOf(":/phong.vert.glsl"), " varying vec3 normal; void main(void) { "
+                                                 "normal = gl_NormalMatrix * gl_Normal; "
+                                                 "gl_Position = ftransform(); "
+                                                 "gl_FrontColor = gl_Color; "
+                                                 "gl_BackColor = gl_Color; } ");
+    EXPECT_EQ(statementsOf(":/phong.frag.glsl"),
+              " varying vec3 normal; "
+              "void addDirectionalLight(in int i, in vec3 fragmentNormal, "
+              "inout vec4 ambient, inout vec4 diffuse, inout vec4 specular) { "
+              "vec3 L = normalize(gl_LightSource[i].position.xyz); "
+              "vec3 H = gl_LightSource[i].halfVector.xyz; "
+              "vec3 N = normalize(normal); "
+              "if (!gl_FrontFacing) N = -N; "
+              "float nDotL = max(0.0, dot(N, L)); "
+              "float nDotH = max(0.0, dot(N, H)); "
+              "float powerMult; "
+              "if (nDotH == 0.0) powerMult = 0.0; "
+              "else powerMult = pow(nDotH, gl_FrontMaterial.shininess); "
+              "ambient += gl_LightSource[i].ambient; "
+              "diffuse += gl_LightSource[i].diffuse * nDotL; "
+              "specular += gl_LightSource[i].specular * powerMult; } "
+              "void main(void) { "
+              "vec3 fragmentNormal = normalize(normal); "
+              "vec4 ambient = vec4(0.0, 0.0, 0.0, 0.0); "
+              "vec4 diffuse = vec4(0.0, 0.0, 0.0, 0.0); "
+              "vec4 specular = vec4(0.0, 0.0, 0.0, 0.0); "
+              "vec3 finalColor = gl_FrontLightModelProduct.sceneColor.rgb; "
+              "for (int i = 0; i < 8; i++) "
+              "addDirectionalLight(i, fragmentNormal, ambient, diffuse, specular); "
+              "finalColor += ambient.rgb * gl_Color.rgb + diffuse.rgb * gl_Color.rgb + "
+              "specular.rgb * gl_Color.rgb; "
+              "gl_FragColor = vec4(finalColor, gl_Color.a); } ");
+    EXPECT_EQ(statementsOf(":/solid.vert.glsl"), " void main(void) { gl_Position = ftransform(); "
+                                                 "gl_FrontColor = gl_Color; "
+                                                 "gl_BackColor = gl_Color; } ");
+    EXPECT_EQ(statementsOf(":/solid.frag.glsl"), " void main(void) { gl_FragColor = gl_Color; } ");
 }
 
 TEST(Resources, PicturesHaveTheirSizesAndColourFormats) {

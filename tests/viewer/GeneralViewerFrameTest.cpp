@@ -3,6 +3,8 @@
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
+#include <Inventor/nodes/SoEnvironment.h>
+#include <Inventor/nodes/SoFragmentShader.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoShapeHints.h>
 #include <Inventor/nodes/SoVertexShader.h>
@@ -109,6 +111,19 @@ TEST(GeneralViewerFrame, MissingShaderResourceIsEmptyText) {
     EXPECT_EQ(shader->sourceProgram.getValue().getLength(), 0);
 }
 
+TEST(GeneralViewerFrame, ShadersOfAProgramAreThoseOfItsPaths) {
+    ShownFrame frame;
+    const NodePointer<SoShaderProgram> program(
+        frame.createShaderProgram(":/solid.vert.glsl", ":/phong.frag.glsl"));
+    ASSERT_EQ(program->shaderObject.getNum(), 2);
+    const auto* vertex = dynamic_cast<SoVertexShader*>(program->shaderObject[0]);
+    const auto* fragment = dynamic_cast<SoFragmentShader*>(program->shaderObject[1]);
+    ASSERT_NE(vertex, nullptr);
+    ASSERT_NE(fragment, nullptr);
+    EXPECT_EQ(vertex->sourceProgram.getValue().getLength(), 426) << "the length of the solid one";
+    EXPECT_EQ(fragment->sourceProgram.getValue().getLength(), 1813) << "that of the Phong one";
+}
+
 TEST(GeneralViewerFrame, DrawsItsSceneOnceBeforeTheViewerExists) {
     ShownFrame frame;
     frame.initialize();
@@ -146,10 +161,16 @@ TEST(GeneralViewerFrame, ViewerKeepsWhatABareExaminerHasOtherwise) {
     EXPECT_EQ(viewer.getDrawStyle(SoQtViewer::STILL), bare.getDrawStyle(SoQtViewer::STILL));
     EXPECT_EQ(viewer.isAnimationEnabled(), bare.isAnimationEnabled());
     EXPECT_EQ(viewer.isAutoRedraw(), bare.isAutoRedraw());
+    EXPECT_EQ(viewer.isAutoClipping(), bare.isAutoClipping());
+    EXPECT_EQ(viewer.isCursorEnabled(), bare.isCursorEnabled());
+    EXPECT_EQ(viewer.isDetailSeek(), bare.isDetailSeek());
+    EXPECT_EQ(viewer.getSeekTime(), bare.getSeekTime());
+    EXPECT_EQ(viewer.getFeedbackSize(), bare.getFeedbackSize());
     EXPECT_EQ(viewer.getHeadlight()->direction.getValue(),
               bare.getHeadlight()->direction.getValue());
     EXPECT_EQ(viewer.getHeadlight()->intensity.getValue(),
               bare.getHeadlight()->intensity.getValue());
+    EXPECT_EQ(viewer.getHeadlight()->color.getValue(), bare.getHeadlight()->color.getValue());
 }
 
 TEST(GeneralViewerFrame, ViewerIsNamedLikeItsFrame) {
@@ -276,6 +297,13 @@ TEST(GeneralViewerFrame, MakesWhiteLights) {
     EXPECT_EQ(light->intensity.getValue(), 0.5F);
     EXPECT_EQ(light->direction.getValue(), SbVec3f(1, 2, 3));
     EXPECT_EQ(light->color.getValue(), SbColor(1, 1, 1));
+}
+
+TEST(GeneralViewerFrame, MakesWhiteSurroundings) {
+    ShownFrame frame;
+    const NodePointer<SoEnvironment> environment(frame.createEnvironment(0.37F));
+    EXPECT_EQ(environment->ambientIntensity.getValue(), 0.37F);
+    EXPECT_EQ(environment->ambientColor.getValue(), SbColor(1, 1, 1));
 }
 
 TEST(GeneralViewerFrame, BackgroundGoesBehindWhatTheSceneHas) {

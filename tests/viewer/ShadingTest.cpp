@@ -83,7 +83,11 @@ public:
     SoMaterial* material = nullptr;
     SoNormal* normals = nullptr;
     /** What the last of OpenGL's eight lights, which stays switched off, gives straight ahead. */
-    float offLight = 0;
+    struct OffLight {
+        float ambient = 0;
+        float diffuse = 0;
+    };
+    OffLight offLight;
 
 private:
     static SoSeparator* createSquare() {
@@ -101,12 +105,17 @@ private:
         if (!action->isOfType(SoGLRenderAction::getClassTypeId())) {
             return;
         }
-        const float strength = static_cast<LitSquare*>(frame)->offLight;
-        const std::array<float, 4> color{strength, strength, strength, 1};
+        const OffLight& light = static_cast<LitSquare*>(frame)->offLight;
         const std::array<float, 4> straightAhead{0, 0, 1, 0};
         glDisable(GL_LIGHT7);
-        glLightfv(GL_LIGHT7, GL_DIFFUSE, color.data());
+        setUnitSeven(GL_AMBIENT, light.ambient);
+        setUnitSeven(GL_DIFFUSE, light.diffuse);
         glLightfv(GL_LIGHT7, GL_POSITION, straightAhead.data());
+    }
+
+    static void setUnitSeven(GLenum term, float strength) {
+        const std::array<float, 4> color{strength, strength, strength, 1};
+        glLightfv(GL_LIGHT7, term, color.data());
     }
 
     SoTransform* turn = nullptr;
@@ -160,10 +169,16 @@ TEST(Shading, LightThatIsSwitchedOffStillCounts) {
     LitSquare square;
     square.turnBy(1.0 / 6);
     const int before = square.brightness();
-    square.offLight = 1;
-    square.material->touch();
+    const auto more = [&](const LitSquare::OffLight& light) {
+        square.offLight = light;
+        square.material->touch();
+        return square.brightness() - before;
+    };
+    const double grey = 255 * quarterGrey[0];
+    EXPECT_NEAR(more({0.4F, 0}), 0.4 * grey, smallDifference);
     // Half its diffuse light falls on a square turned by 60 degrees.
-    EXPECT_NEAR(square.brightness(), before + 0.125 * 255, smallDifference);
+    EXPECT_NEAR(more({0, 1}), 0.5 * grey, smallDifference);
+    EXPECT_NEAR(more({0.3F, 0.4F}), (0.3 + 0.2) * grey, smallDifference);
 }
 
 TEST(Shading, SolidStyleShowsTheColourItself) {

@@ -6,6 +6,7 @@
 #include "viewer/SoQtGeneralViewerFrame.h"
 
 #include <Inventor/events/SoKeyboardEvent.h>
+#include <Inventor/events/SoLocation2Event.h>
 #include <Inventor/events/SoMouseButtonEvent.h>
 #include <Inventor/nodes/SoCone.h>
 #include <Inventor/nodes/SoDrawStyle.h>
@@ -31,8 +32,14 @@ public:
             keys.push_back(static_cast<const SoKeyboardEvent*>(event)->getKey());
         } else if (event->isOfType(SoMouseButtonEvent::getClassTypeId())) {
             ++mouseButtons;
+        } else if (event->isOfType(SoLocation2Event::getClassTypeId())) {
+            ++motions;
         }
-        return consumes ? 1 : 0;
+        return consumes ? answer : 0;
+    }
+    void toggleDrawStyle() override {
+        calls.emplace_back("toggleDrawStyle");
+        SoQtGeneralViewerFrame::toggleDrawStyle();
     }
 
     const DocumentScene& documentScene() const { return *scene; }
@@ -44,7 +51,10 @@ public:
     std::vector<std::string> calls;
     std::vector<SoKeyboardEvent::Key> keys;
     int mouseButtons = 0;
+    int motions = 0;
     bool consumes = false;
+    /** To what it consumes. */
+    int answer = 1;
 };
 
 /** A shown frame on the screen, drawn. */

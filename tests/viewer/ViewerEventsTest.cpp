@@ -2,6 +2,7 @@
 
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
+#include <QTest>
 #include <gtest/gtest.h>
 
 TEST(ViewerEvents, SpaceChangesTheDrawStyleAndNeverReachesTheFrame) {
@@ -14,6 +15,8 @@ TEST(ViewerEvents, SpaceChangesTheDrawStyleAndNeverReachesTheFrame) {
     EXPECT_EQ(shown.get().shading().whichChild.getValue(), 0);
     // The releases of the key are the frame's to see; the presses are not.
     EXPECT_EQ(shown.get().keys.size(), 3U);
+    // The frame may have a way of its own.
+    EXPECT_EQ(shown.get().calls.back(), "toggleDrawStyle");
 }
 
 TEST(ViewerEvents, PAndOChangeTheCameraAndTheirPressesNeverReachTheFrame) {
@@ -24,6 +27,19 @@ TEST(ViewerEvents, PAndOChangeTheCameraAndTheirPressesNeverReachTheFrame) {
     EXPECT_EQ(shown.get().getViewer()->getCameraType(), SoOrthographicCamera::getClassTypeId());
     EXPECT_EQ(shown.get().keys,
               (std::vector<SoKeyboardEvent::Key>{SoKeyboardEvent::P, SoKeyboardEvent::O}));
+}
+
+TEST(ViewerEvents, KeysOfTheViewersOwnWorkInPickingModeToo) {
+    const FrameOnScreen shown;
+    SoQtGeneralViewer& viewer = *shown.get().getViewer();
+    viewer.setViewing(FALSE);
+    shown.driver().key(Qt::Key_Space);
+    EXPECT_EQ(shown.get().shading().whichChild.getValue(), 1);
+    shown.driver().key(Qt::Key_P);
+    EXPECT_EQ(viewer.getCameraType(), SoPerspectiveCamera::getClassTypeId());
+    shown.driver().key(Qt::Key_O);
+    EXPECT_EQ(viewer.getCameraType(), SoOrthographicCamera::getClassTypeId());
+    EXPECT_EQ(shown.get().keys.size(), 3U);
 }
 
 TEST(ViewerEvents, EveryStyleAndCameraShowsAnotherPicture) {
@@ -48,8 +64,11 @@ TEST(ViewerEvents, OtherKeysReachTheFramePressedAndReleased) {
 TEST(ViewerEvents, WhatTheFrameConsumesNeverReachesTheExaminer) {
     const FrameOnScreen shown;
     shown.get().consumes = true;
-    shown.driver().key(Qt::Key_S);
-    EXPECT_FALSE(shown.get().getViewer()->isSeekMode());
+    for (const int answer : {1, -1, 256}) {
+        shown.get().answer = answer;
+        shown.driver().key(Qt::Key_S);
+        EXPECT_FALSE(shown.get().getViewer()->isSeekMode()) << answer;
+    }
     shown.get().consumes = false;
     shown.driver().key(Qt::Key_S);
     EXPECT_TRUE(shown.get().getViewer()->isSeekMode());
@@ -65,9 +84,20 @@ TEST(ViewerEvents, DragMovesTheCameraUnlessTheFrameConsumesIt) {
     shown.driver().drag(Qt::LeftButton, QPoint(100, 100), QPoint(180, 140));
     EXPECT_EQ(orientation(), before);
     EXPECT_GE(shown.get().mouseButtons, 2);
+    EXPECT_GE(shown.get().motions, 2);
     shown.get().consumes = false;
     shown.driver().drag(Qt::LeftButton, QPoint(100, 100), QPoint(180, 140));
     EXPECT_NE(orientation(), before);
+}
+
+TEST(ViewerEvents, FrameCanConsumeTheMotionsOfADragThatItLetBegin) {
+    const FrameOnScreen shown;
+    const SoCamera& camera = *shown.get().getViewer()->getCamera();
+    const SbRotation before = camera.orientation.getValue();
+    QTest::mousePress(&shown.driver().widget(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    shown.get().consumes = true;
+    shown.driver().moveDragging(Qt::LeftButton, QPoint(180, 140));
+    EXPECT_EQ(camera.orientation.getValue(), before);
 }
 
 TEST(ViewerEvents, RightButtonOpensNoPopupMenu) {
