@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QStatusBar>
+#include <QTextDocument>
 
 MessageRoom::MessageRoom(QStatusBar& statusBar)
     : QObject(&statusBar)
@@ -23,7 +24,9 @@ bool MessageRoom::eventFilter(QObject* watched, QEvent* event) {
 void MessageRoom::update() {
     const QString message = bar.currentMessage();
     const int needed = bar.fontMetrics().horizontalAdvance(message + "MM");
-    // What finds no room can be read by resting the mouse on it.
-    bar.setToolTip(message);
+    // What finds no room can be read by resting the mouse on it, as it stands: a path may hold
+    // tags.
+    bar.setToolTip(message.isEmpty() ? QString()
+                                     : Qt::convertFromPlainText(message, Qt::WhiteSpaceNormal));
     bar.setContentsMargins(message.isEmpty() ? 0 : qMin(needed, bar.width() / 3), 0, 0, 0);
 }

@@ -96,9 +96,14 @@ TEST_F(AskingForParameters, BrokenConditionShowsItsPictureAndTheModelsValuesAgai
 }
 
 TEST_F(AskingForParameters, EnterAndEscapeCloseTheErrorBox) {
-    ask({enter({{"K3 :", "0"}}), [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); },
-         enter({{"K3 :", "0"}}), [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); },
-         [](QWidget& dialog) {
+    const auto strike = [&](Qt::Key key) {
+        return [&, key](QWidget& box) {
+            EXPECT_EQ(box.parent(), &parent);
+            QTest::keyClick(&box, key);
+        };
+    };
+    ask({enter({{"K3 :", "0"}}), strike(Qt::Key_Return), enter({{"K3 :", "0"}}),
+         strike(Qt::Key_Escape), [](QWidget& dialog) {
              pressEscape(dialog);
          }});
     EXPECT_FALSE(answer.has_value());
@@ -107,6 +112,14 @@ TEST_F(AskingForParameters, EnterAndEscapeCloseTheErrorBox) {
 TEST_F(AskingForParameters, EndsWhenTheParentIsClosedBehindTheErrorBox) {
     ask({enter({{"K3 :", "0"}}), [&](QWidget& box) {
              parent.close();
+             QTest::keyClick(&box, Qt::Key_Return);
+         }});
+    EXPECT_FALSE(answer.has_value());
+}
+
+TEST_F(AskingForParameters, EndsWhenTheFrameIsClosedBehindTheErrorBox) {
+    ask({enter({{"K3 :", "0"}}), [&](QWidget& box) {
+             frame.reset();
              QTest::keyClick(&box, Qt::Key_Return);
          }});
     EXPECT_FALSE(answer.has_value());

@@ -4,6 +4,7 @@
 
 #include "helix/HelixFrame.h"
 #include "hyperboloid/HyperboloidFrame.h"
+#include "tests/app/BareFrames.h"
 #include "tests/support/SceneReader.h"
 #include "tests/support/Spheres.h"
 #include "tests/support/VertexHelix.h"
@@ -186,6 +187,12 @@ TEST(DocumentsTest, WithoutSurfacesNoHelixIsOpened) {
     documents.openHelix();
     EXPECT_EQ(documents.count(), 0);
     EXPECT_EQ(documents.active(), nullptr);
+}
+
+TEST(DocumentsTest, WithoutSurfacesHelicesStayWhereTheyAre) {
+    const auto helix = BareFrames::helix();
+    HyperboloidTrio().keepInPlace({helix.get()}, 4096);
+    EXPECT_EQ(helix->getIndex(), 7);
 }
 
 TEST(DocumentsTest, ATitleFindsTheOldestDocumentThatBearsIt) {

@@ -260,8 +260,7 @@ TEST(HelixWindowTest, GoesOnWithTheLastHelixWhenNoDocumentIsActive) {
     EXPECT_EQ(modelOf(opened).getNTurns(), 7.0F);
     EXPECT_EQ(modelOf(opened).getPrecisionLine(), 23U);
     EXPECT_EQ(modelOf(opened).getPrecisionTube(), 11U);
-    const SliderWindow another = openHelixWindow(opened);
-    EXPECT_TRUE(another.isAlive());
+    DialogDriver().during([&] { openHelixWindow(opened); });
 }
 
 TEST(HelixWindowTest, ChangesNothingWhileAHyperboloidIsActive) {

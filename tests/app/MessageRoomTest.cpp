@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <gtest/gtest.h>
 
 namespace {
@@ -49,6 +50,16 @@ TEST_F(MessageRoomTest, IsAThirdOfTheBarAtMost) {
     resize(600);
     EXPECT_EQ(bar.width(), 600) << "it can be made smaller";
     EXPECT_NEAR(edge(), 200, 20);
+}
+
+TEST_F(MessageRoomTest, WhatFindsNoRoomStandsInTheToolTipAsItIs) {
+    const QString message = "Saved /tmp/<b>/" + QString(300, 'x');
+    bar.showMessage(message);
+    QTextDocument tip;
+    tip.setHtml(bar.toolTip());
+    EXPECT_EQ(tip.toPlainText(), message);
+    bar.clearMessage();
+    EXPECT_EQ(bar.toolTip(), "");
 }
 
 TEST_F(MessageRoomTest, IsTakenFromTheLeftAlone) {

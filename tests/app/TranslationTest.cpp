@@ -6,7 +6,9 @@
 #include "app/HyperboloidParameterDialog.h"
 #include "app/MainWindow.h"
 #include "app/Messages.h"
+#include "app/RefusedParametersText.h"
 #include "app/StartUp.h"
+#include "app/SurfaceConditionText.h"
 #include "app/WindowMenu.h"
 #include "helix/Helix.h"
 #include "tests/app/BareFrames.h"
@@ -169,6 +171,26 @@ TEST(Translation, BrokenConditionIsSaidAsItIsAndItsButtonTranslated) {
             box.accept();
         })
         .during([&] { Messages::brokenCondition(":/images/err2.png", &parent); });
+}
+
+TEST(Translation, WhatIsSaidOfASurfaceBelongsToTheMainWindow) {
+    using Cause = SurfaceCondition::Cause;
+    using Drawn = SurfaceCondition::Drawn;
+    const MarkingTranslator translator;
+    SurfaceCondition condition;
+    condition.drawn = Drawn::unitHyperboloid;
+    condition.causes = {Cause::zeroK13, Cause::zeroUHat};
+    EXPECT_EQ(SurfaceConditionText::of(condition),
+              "MainWindow/Unit hyperboloid, not the quadric: MainWindow/K13 = 0MainWindow/ and "
+              "MainWindow/Û = 0");
+    condition.drawn = Drawn::nothing;
+    EXPECT_EQ(SurfaceConditionText::explanation(condition),
+              "MainWindow/The vertices have no finite coordinates.");
+    HyperboloidParameters refused;
+    refused.K1 = 1.51;
+    EXPECT_TRUE(
+        RefusedParametersText::of(refused, HyperboloidParameters())
+            .startsWith("MainWindow/Refused: QMainWindow/K1 = 1.51, QMainWindow/K2 = 1.50"));
 }
 
 TEST(Translation, AboutBoxIsTranslatedAndTheCallForAHelixIsNot) {

@@ -10,6 +10,7 @@
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoPerspectiveCamera.h>
 #include <Inventor/nodes/SoQuadMesh.h>
+#include <Inventor/nodes/SoTransform.h>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -224,6 +225,24 @@ TEST_P(TransparencyIn, BothWallsAreSeenEverywhereFromEveryDirection) {
         }
     }
     EXPECT_GT(doubles, 150);
+}
+
+TEST(Transparency, BothWallsAreSeenWhereverTheSurfaceIsCarried) {
+    const BareSurface surface(Hyperboloid::XSPACE, Quadric::alongFirstAxis, transparency);
+    auto* carried = new SoTransform;
+    carried->rotation.setValue(SbVec3f(0.3F, -0.8F, 0.5F), 2.3F);
+    carried->translation.setValue(3.7F, -2.1F, 1.3F);
+    surface.surface().insertChild(carried, 0);
+    int doubles = 0;
+    for (const SoType& camera :
+         {SoOrthographicCamera::getClassTypeId(), SoPerspectiveCamera::getClassTypeId()}) {
+        surface.frame->getViewer()->setCameraType(camera);
+        for (const std::size_t direction : {6U, 8U, 11U, 13U}) {
+            surface.lookFrom(directions.at(direction));
+            doubles += surface.rightDoubles();
+        }
+    }
+    EXPECT_GT(doubles, 50);
 }
 
 TEST_P(TransparencyIn, OpaqueSurfaceLooksAsTheLibrarysOwnMeshDoes) {

@@ -211,6 +211,7 @@ TEST_F(CommandLineTest, HelpNamesRangesAndStartValues) {
     EXPECT_NE(helped.find("radius of the tube (0 to 0.1; start value 0.01)"), std::string::npos);
     EXPECT_NE(helped.find("--point-radius LENGTH"), std::string::npos);
     EXPECT_NE(helped.find("--tube-radius LENGTH"), std::string::npos);
+    EXPECT_NE(helped.find("--u3axis-radius LENGTH"), std::string::npos);
     EXPECT_NE(helped.find("--turns COUNT"), std::string::npos);
     EXPECT_NE(helped.find("LENGTH is in units of the coordinates of the space"), std::string::npos);
     EXPECT_NE(helped.find("of the surfaces (0 to 100; start value 80)"), std::string::npos);

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 using Names = std::vector<std::string>;
@@ -215,10 +216,11 @@ TEST(HyperboloidFrameTest, ChangingColoursCopiesThemIntoXAndMOnly) {
     }
 }
 
-TEST(HyperboloidFrameTest, ColoursAreCopiedOnceTheGridsAgree) {
+class ColoursOfAnotherGrid : public testing::TestWithParam<std::pair<int, int>> {};
+
+TEST_P(ColoursOfAnotherGrid, AreCopiedOnceTheGridsAgree) {
     HyperboloidParameters onNewGrid;
-    onNewGrid.horizontalPrecision = 7;
-    onNewGrid.verticalPrecision = 11;
+    std::tie(onNewGrid.horizontalPrecision, onNewGrid.verticalPrecision) = GetParam();
     for (const int space : {Hyperboloid::XSPACE, Hyperboloid::MSPACE}) {
         LoneFrame u(Hyperboloid::USPACE);
         LoneFrame lone(space);
@@ -235,6 +237,26 @@ TEST(HyperboloidFrameTest, ColoursAreCopiedOnceTheGridsAgree) {
         EXPECT_EQ(color(lone.frame, 38), after);
         EXPECT_EQ(shownColor(lone.frame, 38), after);
     }
+}
+
+// The second has as many vertices as the start-up grid.
+INSTANTIATE_TEST_SUITE_P(HyperboloidFrame, ColoursOfAnotherGrid,
+                         testing::Values(std::pair(7, 11), std::pair(32, 128)));
+
+TEST(HyperboloidFrameTest, WhatHasGoneUntoldReadsAsNull) {
+    LoneFrame x(Hyperboloid::XSPACE);
+    {
+        HelixFrame helix(0.71F, 0.53F, -0.31F, 0.9F, 0.4F, 0.2F, 7, true, nullptr);
+        x.frame.SetPreviousHelix(&helix);
+        EXPECT_EQ(x.frame.GetPreviousHelix(), &helix);
+        LoneFrame u(Hyperboloid::USPACE);
+        x.frame.setBrother(&u.frame, &x.frame, nullptr);
+        EXPECT_EQ(x.frame.getBrother(Hyperboloid::USPACE), &u.frame);
+    }
+    EXPECT_EQ(x.frame.GetPreviousHelix(), nullptr);
+    EXPECT_EQ(x.frame.getBrother(Hyperboloid::USPACE), nullptr);
+    x.frame.moveSphere(HyperboloidFrame::DOWN);
+    x.frame.reDraw(false, false);
 }
 
 TEST(HyperboloidFrameTest, RedrawOnAnotherGridNeedsNewTables) {

@@ -24,24 +24,34 @@ struct Expected {
     double maximum;
     int decimals;
     double step;
+    bool isLength;
+    const char* meaning;
 };
 
 const std::vector<Expected> everyParameter{
-    {"K1", &Set::K1, 1.0, 0.01, 100.0, 2, 0.01},
-    {"K2", &Set::K2, 1.5, 0.01, 100.0, 2, 0.01},
-    {"K3", &Set::K3, 1.0, 0.0, 100.0, 2, 0.01},
-    {"K13", &Set::K13, 0.5, -100.0, 100.0, 2, 0.01},
-    {"K23", &Set::K23, 0.5, -100.0, 100.0, 2, 0.01},
-    {"Uhat1", &Set::U1, 1.0, -100.0, 100.0, 2, 0.01},
-    {"Uhat2", &Set::U2, 0.0, -100.0, 100.0, 2, 0.01},
-    {"Uhat3", &Set::U3, 0.0, -100.0, 100.0, 2, 0.01},
-    {"columns", &Set::horizontalPrecision, 64.0, 5.0, 500.0, 0, 1.0},
-    {"rows", &Set::verticalPrecision, 64.0, 5.0, 500.0, 0, 1.0},
-    {"point-radius", &Set::pointRadius, 0.3, 0.0, 10.0, 2, 0.01},
-    {"u3const-range", &Set::u3constRange, 7.0, 0.0, 100.0, 2, 0.01},
-    {"u3axis-range", &Set::u3axisRange, 7.0, 0.0, 100.0, 2, 0.01},
-    {"u3const-radius", &Set::u3constRadius, 0.02, 0.0, 100.0, 2, 0.01},
-    {"u3axis-radius", &Set::u3axisRadius, 0.03, 0.0, 100.0, 2, 0.01},
+    {"K1", &Set::K1, 1.0, 0.01, 100.0, 2, 0.01, false, "first diagonal entry of the matrix K"},
+    {"K2", &Set::K2, 1.5, 0.01, 100.0, 2, 0.01, false, "second diagonal entry of K"},
+    {"K3", &Set::K3, 1.0, 0.0, 100.0, 2, 0.01, false, "third diagonal entry of K"},
+    {"K13", &Set::K13, 0.5, -100.0, 100.0, 2, 0.01, false, "entry of K in row 1 and column 3"},
+    {"K23", &Set::K23, 0.5, -100.0, 100.0, 2, 0.01, false, "entry of K in row 2 and column 3"},
+    {"Uhat1", &Set::U1, 1.0, -100.0, 100.0, 2, 0.01, false,
+     "first coordinate of the point uHat of U space"},
+    {"Uhat2", &Set::U2, 0.0, -100.0, 100.0, 2, 0.01, false, "second coordinate of uHat"},
+    {"Uhat3", &Set::U3, 0.0, -100.0, 100.0, 2, 0.01, false, "third coordinate of uHat"},
+    {"columns", &Set::horizontalPrecision, 64.0, 5.0, 500.0, 0, 1.0, false,
+     "columns of the grid, around the surface"},
+    {"rows", &Set::verticalPrecision, 64.0, 5.0, 500.0, 0, 1.0, false,
+     "rows of the grid, along the surface"},
+    {"point-radius", &Set::pointRadius, 0.3, 0.0, 10.0, 2, 0.01, true,
+     "radius of the spheres that mark points"},
+    {"u3const-range", &Set::u3constRange, 7.0, 0.0, 100.0, 2, 0.01, true,
+     "half the length of the lines of constant u3"},
+    {"u3axis-range", &Set::u3axisRange, 7.0, 0.0, 100.0, 2, 0.01, true,
+     "half the length of the u3 axis"},
+    {"u3const-radius", &Set::u3constRadius, 0.02, 0.0, 100.0, 2, 0.01, true,
+     "radius of the tubes of the lines of constant u3"},
+    {"u3axis-radius", &Set::u3axisRadius, 0.03, 0.0, 100.0, 2, 0.01, true,
+     "radius of the tube of the u3 axis"},
 };
 
 /** A set whose conditions hang on these five alone. */
@@ -62,6 +72,8 @@ TEST(HyperboloidParameters, AreDeclaredWithNameRangeStepAndStartValue) {
         EXPECT_EQ(parameter.maximum, expected.maximum) << expected.name;
         EXPECT_EQ(parameter.decimals, expected.decimals) << expected.name;
         EXPECT_EQ(parameter.step, expected.step) << expected.name;
+        EXPECT_EQ(parameter.isLength, expected.isLength) << expected.name;
+        EXPECT_EQ(parameter.meaning, expected.meaning) << expected.name;
     }
 }
 

@@ -25,6 +25,7 @@ TEST(HyperboloidScene, TheSurfaceHasItsNodesInOrder) {
     hyperboloid.regenerate(startUp, 6, 9);
     const NodePointer<SoSeparator> scene(hyperboloid.DrawHyperboloid());
     EXPECT_EQ(nameOf(scene.get()), "Hyperboloid");
+    EXPECT_EQ(scene->renderCaching.getValue(), SoSeparator::ON);
     ASSERT_EQ(scene->getNumChildren(), 4);
     EXPECT_EQ(scene->getChild(0), hyperboloid.material.get());
     const auto* binding = childAs<SoMaterialBinding>(scene.get(), 1);

@@ -71,6 +71,20 @@ TEST_F(KeptSurface, ShowsBallsThatCutEachOtherAndTheSurfaceAsInTheOrderOfTheScen
     }
 }
 
+TEST_F(KeptSurface, IsSeenBeforeItsEqualsAlsoWhereABallHasGone) {
+    setSurface(createTriangle(red));
+    around().addChild(createTriangle(green));
+    SoSeparator* ball = createBall(blue, SbVec3f(0, 0, 0.9F), 0.3F);
+    around().addChild(ball);
+    keep();
+    expectKeptAndSame();
+    EXPECT_GT(middle().blue(), 0);
+    around().removeChild(ball);
+    expectKeptAndSame();
+    EXPECT_GT(middle().red(), 0);
+    EXPECT_EQ(middle().green(), 0);
+}
+
 TEST_F(KeptSurface, IsTakenAnewAfterWhateverChangesTheSurfaceOnTheScreen) {
     const std::vector<std::function<void()>> changes{
         [&] { viewer().getCamera()->orientation = SbRotation(SbVec3f(1, 2, 3), 0.21F); },
