@@ -72,6 +72,14 @@ TEST(DocumentScene, TakesALookAndGoesOnFromIt) {
     EXPECT_EQ(look(scene), std::make_pair(0, int{SoDrawStyle::FILLED}));
 }
 
+// What a viewer lets go of in its own OpenGL context is never another one's.
+TEST(DocumentScene, SharesNoProgramWithAnother) {
+    const DocumentScene scene;
+    const DocumentScene other;
+    EXPECT_NE(scene.getPhongProgram(), other.getPhongProgram());
+    EXPECT_NE(scene.getSolidProgram(), other.getSolidProgram());
+}
+
 TEST(DocumentScene, KeepsItsNodesAsLongAsItLives) {
     NodePointer<SoSeparator> root;
     {

@@ -3,11 +3,8 @@
 
 #include <Inventor/Qt/viewers/SoQtExaminerViewer.h>
 #include <Inventor/nodes/SoDirectionalLight.h>
-#include <Inventor/nodes/SoEnvironment.h>
-#include <Inventor/nodes/SoFragmentShader.h>
 #include <Inventor/nodes/SoOrthographicCamera.h>
 #include <Inventor/nodes/SoShapeHints.h>
-#include <Inventor/nodes/SoVertexShader.h>
 #include <QGLWidget>
 #include <QPointer>
 #include <QSignalSpy>
@@ -70,18 +67,6 @@ TEST(GeneralViewerFrame, IsOfTheBaseTypeAndOfFixedMinimumSize) {
     EXPECT_EQ(frame.parent(), nullptr);
 }
 
-TEST(GeneralViewerFrame, BaseOperationsDoNothing) {
-    SoQtGeneralViewerFrame frame(true, nullptr);
-    frame.initialize();
-    const int children = frame.getSceneRoot()->getNumChildren();
-    const SoKeyboardEvent event;
-    EXPECT_EQ(frame.processSoEvent(&event), 0);
-    frame.SetEventHandlers();
-    frame.Draw();
-    frame.reDraw();
-    EXPECT_EQ(frame.getSceneRoot()->getNumChildren(), children);
-}
-
 TEST(GeneralViewerFrame, ShowsTheSceneOfADocument) {
     ShownFrame frame;
     frame.initialize();
@@ -100,28 +85,6 @@ TEST(GeneralViewerFrame, SceneIsSeenOnTheScreenUnderWhatAPictureOfItIsSeenUnder)
     const auto& screen = dynamic_cast<SoGroup&>(*viewer.getSceneManager()->getSceneGraph());
     EXPECT_EQ(lightAndCamera(screen).size(), 3U);
     EXPECT_EQ(lightAndCamera(screen), lightAndCamera(*picture));
-}
-
-TEST(GeneralViewerFrame, MissingShaderResourceIsEmptyText) {
-    ShownFrame frame;
-    const NodePointer<SoShaderProgram> program(
-        frame.createShaderProgram(":/absent.vert.glsl", ":/absent.frag.glsl"));
-    auto* shader = dynamic_cast<SoVertexShader*>(program->shaderObject[0]);
-    ASSERT_NE(shader, nullptr);
-    EXPECT_EQ(shader->sourceProgram.getValue().getLength(), 0);
-}
-
-TEST(GeneralViewerFrame, ShadersOfAProgramAreThoseOfItsPaths) {
-    ShownFrame frame;
-    const NodePointer<SoShaderProgram> program(
-        frame.createShaderProgram(":/solid.vert.glsl", ":/phong.frag.glsl"));
-    ASSERT_EQ(program->shaderObject.getNum(), 2);
-    const auto* vertex = dynamic_cast<SoVertexShader*>(program->shaderObject[0]);
-    const auto* fragment = dynamic_cast<SoFragmentShader*>(program->shaderObject[1]);
-    ASSERT_NE(vertex, nullptr);
-    ASSERT_NE(fragment, nullptr);
-    EXPECT_EQ(vertex->sourceProgram.getValue().getLength(), 426) << "the length of the solid one";
-    EXPECT_EQ(fragment->sourceProgram.getValue().getLength(), 1813) << "that of the Phong one";
 }
 
 TEST(GeneralViewerFrame, DrawsItsSceneOnceBeforeTheViewerExists) {
@@ -145,6 +108,14 @@ TEST(GeneralViewerFrame, ViewerStartsOrthographicWithItsSettings) {
     EXPECT_FALSE(viewer.isSeekMode());
     EXPECT_EQ(viewer.getParentWidget(), &frame);
     EXPECT_FALSE(viewer.isTopLevelShell());
+}
+
+TEST(GeneralViewerFrame, ViewerThatIsNotEmbeddedHasAWindowOfItsOwn) {
+    ShownFrame frame;
+    frame.initialize();
+    const SoQtGeneralViewer own(&frame, "own", 0);
+    EXPECT_TRUE(own.isTopLevelShell());
+    EXPECT_NE(own.getParentWidget(), &frame);
 }
 
 TEST(GeneralViewerFrame, ViewerKeepsWhatABareExaminerHasOtherwise) {
@@ -254,62 +225,4 @@ TEST(GeneralViewerFrame, DrawStylesCycleThroughPhongSolidAndLines) {
     frame.toggleDrawStyle();
     EXPECT_EQ(frame.shading().whichChild.getValue(), 0);
     EXPECT_EQ(frame.style().style.getValue(), SoDrawStyle::FILLED);
-}
-
-TEST(GeneralViewerFrame, RemovesADirectChildByName) {
-    ShownFrame frame;
-    const NodePointer<SoSeparator> parent(new SoSeparator);
-    parent->addChild(SceneNodes::createSeparator("first"));
-    parent->addChild(SceneNodes::createSeparator("second"));
-    frame.removeSceneChild("first", parent.get());
-    ASSERT_EQ(parent->getNumChildren(), 1);
-    EXPECT_EQ(parent->getChild(0)->getName(), SbName("second"));
-}
-
-TEST(GeneralViewerFrame, RemovesOnlyTheFirstOfSeveralChildrenOfOneName) {
-    ShownFrame frame;
-    const NodePointer<SoSeparator> parent(new SoSeparator);
-    parent->addChild(SceneNodes::createSeparator("twice"));
-    SoSeparator* second = SceneNodes::createSeparator("twice");
-    parent->addChild(second);
-    frame.removeSceneChild("twice", parent.get());
-    ASSERT_EQ(parent->getNumChildren(), 1);
-    EXPECT_EQ(parent->getChild(0), second);
-}
-
-TEST(GeneralViewerFrame, RemovingLeavesGrandchildrenTheParentAndUnknownNamesAlone) {
-    ShownFrame frame;
-    const NodePointer<SoSeparator> parent(SceneNodes::createSeparator("parent"));
-    SoSeparator* middle = SceneNodes::createSeparator("middle");
-    middle->addChild(SceneNodes::createSeparator("deep"));
-    parent->addChild(middle);
-    for (const char* name : {"deep", "parent", "unknown"}) {
-        frame.removeSceneChild(name, parent.get());
-        EXPECT_EQ(parent->getNumChildren(), 1);
-        EXPECT_EQ(middle->getNumChildren(), 1);
-    }
-}
-
-TEST(GeneralViewerFrame, MakesWhiteLights) {
-    ShownFrame frame;
-    const NodePointer<SoDirectionalLight> light(
-        frame.createDirectionalLight(0.5F, SbVec3f(1, 2, 3)));
-    EXPECT_EQ(light->intensity.getValue(), 0.5F);
-    EXPECT_EQ(light->direction.getValue(), SbVec3f(1, 2, 3));
-    EXPECT_EQ(light->color.getValue(), SbColor(1, 1, 1));
-}
-
-TEST(GeneralViewerFrame, MakesWhiteSurroundings) {
-    ShownFrame frame;
-    const NodePointer<SoEnvironment> environment(frame.createEnvironment(0.37F));
-    EXPECT_EQ(environment->ambientIntensity.getValue(), 0.37F);
-    EXPECT_EQ(environment->ambientColor.getValue(), SbColor(1, 1, 1));
-}
-
-TEST(GeneralViewerFrame, BackgroundGoesBehindWhatTheSceneHas) {
-    ShownFrame frame;
-    frame.initialize();
-    frame.setBackground();
-    ASSERT_EQ(frame.getSceneRoot()->getNumChildren(), 5);
-    EXPECT_EQ(frame.getSceneRoot()->getChild(4)->getName(), SbName("Background"));
 }

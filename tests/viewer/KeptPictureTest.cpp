@@ -28,6 +28,12 @@ public:
         functions().glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     }
 
+    /** Leaves an error behind that nobody has asked for yet. */
+    void makeError() {
+        constexpr GLenum nothing = 0xFFFF;
+        functions().glEnable(nothing);
+    }
+
     int number(GLenum name) {
         GLint value = 0;
         functions().glGetIntegerv(name, &value);
@@ -70,6 +76,16 @@ TEST(KeptPicture, IsPutBackIntoTheWindowItWasTakenFrom) {
     picture.drop();
     EXPECT_FALSE(picture.isTaken());
     EXPECT_TRUE(picture.isEmpty());
+}
+
+TEST(KeptPicture, IsTakenThoughSomebodyElseHasMadeAnError) {
+    ClearedWindow window(formatOf(true, 4));
+    ASSERT_GT(window.number(GL_SAMPLES), 0);
+    KeptPicture picture;
+    ASSERT_TRUE(picture.prepare(size));
+    window.makeError();
+    EXPECT_TRUE(picture.take());
+    EXPECT_TRUE(picture.isTaken());
 }
 
 TEST(KeptPicture, IsRefusedInAWindowOfAnotherFormat) {

@@ -74,12 +74,22 @@ TEST_F(KeptSurface, ShowsBallsThatCutEachOtherAndTheSurfaceAsInTheOrderOfTheScen
 TEST_F(KeptSurface, IsSeenBeforeItsEqualsAlsoWhereABallHasGone) {
     setSurface(createTriangle(red));
     around().addChild(createTriangle(green));
-    SoSeparator* ball = createBall(blue, SbVec3f(0, 0, 0.9F), 0.3F);
-    around().addChild(ball);
+    const NodePointer<SoSeparator> ball(createBall(blue, SbVec3f(0, 0, 0.9F), 0.3F));
+    around().addChild(ball.get());
     keep();
     expectKeptAndSame();
     EXPECT_GT(middle().blue(), 0);
-    around().removeChild(ball);
+    around().removeChild(ball.get());
+    expectKeptAndSame();
+    EXPECT_GT(middle().red(), 0);
+    EXPECT_EQ(middle().green(), 0);
+
+    // Nor is the mark of a ball kept with a picture that is taken anew.
+    around().addChild(ball.get());
+    keep();
+    around().removeChild(ball.get());
+    viewer().getHeadlight()->intensity = 0.7F;
+    keep();
     expectKeptAndSame();
     EXPECT_GT(middle().red(), 0);
     EXPECT_EQ(middle().green(), 0);

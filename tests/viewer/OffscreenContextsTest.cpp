@@ -17,3 +17,15 @@ TEST(OffscreenContextsTest, EachDrawingLeavesTheContextCurrentThatWasSo) {
         EXPECT_EQ(QOpenGLContext::currentContext(), view.context()->contextHandle());
     }
 }
+
+TEST(OffscreenContextsTest, LeaveTheContextCurrentThatWasSoWhenTheyGo) {
+    OffscreenContexts::install();
+    const FrameOnScreen shown;
+    auto& view = dynamic_cast<QGLWidget&>(shown.driver().widget());
+    view.makeCurrent();
+    {
+        SoOffscreenRenderer renderer(SbViewportRegion(61, 47));
+        EXPECT_TRUE(renderer.render(shown.get().getSceneRoot()));
+    }
+    EXPECT_EQ(QOpenGLContext::currentContext(), view.context()->contextHandle());
+}

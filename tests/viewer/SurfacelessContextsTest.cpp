@@ -2,6 +2,7 @@
 
 #include <Inventor/C/glue/gl.h>
 #include <Inventor/system/gl.h>
+#include <array>
 #include <future>
 #include <gtest/gtest.h>
 #include <map>
@@ -39,6 +40,21 @@ TEST_F(SurfacelessContextsTest, HaveRoomForColourDepthAndStencil) {
         glGetIntegerv(name, &found);
         EXPECT_EQ(found, bits) << std::hex << name;
     }
+    reinstatePrevious();
+}
+
+TEST_F(SurfacelessContextsTest, GiveWayAgainToTheOneThatWasCurrentBefore) {
+    ASSERT_TRUE(makeCurrent());
+    const std::array<GLfloat, 4> color{0.25F, 0.5F, 0.75F, 1};
+    glClearColor(color[0], color[1], color[2], color[3]);
+    void* inner = cc_glglue_context_create_offscreen(37, 29);
+    ASSERT_NE(inner, nullptr);
+    EXPECT_TRUE(cc_glglue_context_make_current(inner));
+    cc_glglue_context_reinstate_previous(inner);
+    cc_glglue_context_destruct(inner);
+    std::array<GLfloat, 4> found{};
+    glGetFloatv(GL_COLOR_CLEAR_VALUE, found.data());
+    EXPECT_EQ(found, color);
     reinstatePrevious();
 }
 

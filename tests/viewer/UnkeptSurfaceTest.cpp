@@ -18,6 +18,12 @@ TEST_F(KeptSurface, IsNotKeptWhileAnythingIsTransparent) {
     expectNeverKept();
     glass->transparency = 0;
     keep();
+    // Whichever of its colours are.
+    glass->diffuseColor.set1Value(1, green);
+    glass->transparency.set1Value(1, 0.5F);
+    expectNeverKept();
+    glass->transparency = 0;
+    keep();
     SoSeparator* ball = createBall(red, SbVec3f(0.2F, 0.1F, 0.9F), 0.3F);
     around().addChild(ball);
     static_cast<SoMaterial*>(ball->getChild(0))->transparency = 0.5F;
@@ -140,6 +146,18 @@ TEST(KeptSurfaces, AreSwitchedOffByTheEnvironment) {
         shown.get().getViewer()->render();
         EXPECT_EQ(surfaces.take(), 1);
     }
+}
+
+TEST(KeptSurfaces, StayWhateverElseTheEnvironmentSays) {
+    qputenv("TORVANE_KEEP_PICTURES", "1");
+    const FrameOnScreen shown;
+    qunsetenv("TORVANE_KEEP_PICTURES");
+    KeptPictures pictures(shown.get());
+    pictures.shown();
+    pictures.shown();
+    pictures.drawnSurfaces();
+    pictures.shown();
+    EXPECT_EQ(pictures.drawnSurfaces(), 0);
 }
 
 // Nothing counts the drawings here: what counts is never part of a display list.

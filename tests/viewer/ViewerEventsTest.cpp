@@ -5,6 +5,18 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+namespace {
+
+/** What the viewer answers to the press of a key: whether anybody has consumed it. */
+bool consumesPress(SoQtGeneralViewer& viewer, SoKeyboardEvent::Key key) {
+    SoKeyboardEvent press;
+    press.setKey(key);
+    press.setState(SoButtonEvent::DOWN);
+    return viewer.sendSoEvent(&press) != FALSE;
+}
+
+} // namespace
+
 TEST(ViewerEvents, SpaceChangesTheDrawStyleAndNeverReachesTheFrame) {
     const FrameOnScreen shown;
     shown.driver().key(Qt::Key_Space);
@@ -40,6 +52,33 @@ TEST(ViewerEvents, KeysOfTheViewersOwnWorkInPickingModeToo) {
     shown.driver().key(Qt::Key_O);
     EXPECT_EQ(viewer.getCameraType(), SoOrthographicCamera::getClassTypeId());
     EXPECT_EQ(shown.get().keys.size(), 3U);
+}
+
+TEST(ViewerEvents, KeysOfTheViewersOwnWorkWhateverElseIsHeldDown) {
+    const FrameOnScreen shown;
+    const auto keyWithShift = [&](Qt::Key key) {
+        QTest::keyClick(&shown.driver().widget(), key, Qt::ShiftModifier);
+    };
+    keyWithShift(Qt::Key_Space);
+    EXPECT_EQ(shown.get().shading().whichChild.getValue(), 1);
+    keyWithShift(Qt::Key_P);
+    EXPECT_EQ(shown.get().getViewer()->getCameraType(), SoPerspectiveCamera::getClassTypeId());
+    keyWithShift(Qt::Key_O);
+    EXPECT_EQ(shown.get().getViewer()->getCameraType(), SoOrthographicCamera::getClassTypeId());
+}
+
+TEST(ViewerEvents, ViewerTellsWhetherAnybodyHasConsumedAnEvent) {
+    const FrameOnScreen shown;
+    SoQtGeneralViewer& viewer = *shown.get().getViewer();
+    for (const auto key : {SoKeyboardEvent::P, SoKeyboardEvent::O, SoKeyboardEvent::SPACE}) {
+        EXPECT_TRUE(consumesPress(viewer, key)) << key;
+    }
+    EXPECT_TRUE(shown.get().keys.empty());
+    EXPECT_FALSE(consumesPress(viewer, SoKeyboardEvent::W));
+    shown.get().consumes = true;
+    EXPECT_TRUE(consumesPress(viewer, SoKeyboardEvent::W));
+    shown.get().consumes = false;
+    EXPECT_TRUE(consumesPress(viewer, SoKeyboardEvent::S)) << "the examiner's own";
 }
 
 TEST(ViewerEvents, EveryStyleAndCameraShowsAnotherPicture) {
