@@ -144,4 +144,6 @@ TEST(VerifyParam, ConditionsAreCheckedTheQuadricFirst) {
     EXPECT_EQ(window.verify_param(1, 2, 1.51, 1, 1), 0);
     EXPECT_EQ(window.verify_param(2, 1, 1, 5, 5), 2) << "both are broken";
     EXPECT_EQ(window.verify_param(1, 1.5, 1, -2, 0), 2) << "the sign of K13 does not count";
+    EXPECT_EQ(window.verify_param(1, 4, 1, 1.5, 0), 2) << "K13 is divided by K1";
+    EXPECT_EQ(window.verify_param(1, 4, 1, 0, 1.5), 0) << "K23 is divided by K2";
 }

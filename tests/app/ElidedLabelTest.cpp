@@ -36,6 +36,24 @@ TEST(ElidedLabelTest, NeedsRoomForItsFirstLettersOnlyAndTakesNoMoreThanItsText) 
     EXPECT_EQ(label.minimumSizeHint().width(), label.sizeHint().width());
 }
 
+TEST(ElidedLabelTest, KeepsALettersHeightFreeBeforeTheNextText) {
+    ElidedLabel label(5);
+    label.showText("U");
+    EXPECT_EQ(label.sizeHint().width(),
+              QLabel("U").sizeHint().width() + label.fontMetrics().height());
+}
+
+TEST(ElidedLabelTest, ShortTextLooksAsOnAnyLabel) {
+    const QSize roomy(300, 37);
+    ElidedLabel label(5);
+    label.showText("Unit");
+    label.setMaximumWidth(roomy.width());
+    label.resize(roomy);
+    QLabel plain("Unit");
+    plain.resize(roomy);
+    EXPECT_EQ(label.grab().toImage(), plain.grab().toImage());
+}
+
 TEST(ElidedLabelTest, TellsAllInItsToolTipAsTextAndNotAsMarkup) {
     ElidedLabel label(5);
     label.showText("K13²/K1 + K23²/K2 < K3");

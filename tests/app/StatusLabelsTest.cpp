@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -13,6 +14,13 @@ class StatusLabelsTest : public testing::Test {
 protected:
     QLabel& label(const char* name) const { return *bar.findChild<QLabel*>(name); }
     QString text(const char* name) const { return label(name).text(); }
+
+    /** Expects the labels that tell of the active view to be seen, or not to be. */
+    void expectViewIsTold(bool isTold) const {
+        for (const char* name : {"steeredHelixLabel", "helixPointLabel", "viewerTitleLabel"}) {
+            EXPECT_EQ(label(name).isVisible(), isTold) << name;
+        }
+    }
 
     /** Shows surfaces in the bar on a width, and lets it arrange its labels. */
     void showSurfacesIn(int width, const std::vector<HyperboloidFrame*>& surfaces) {
@@ -82,6 +90,25 @@ TEST_F(StatusLabelsTest, TellForEachSurfaceWhichHelixItSteers) {
               x->windowTitle() + " (X) steers no helix: activate a helix, then this view · " +
                   u->windowTitle() + " (U) steers " + second->windowTitle() + " · " +
                   m->windowTitle() + " (M) steers " + first->windowTitle());
+}
+
+TEST_F(StatusLabelsTest, TellFirstWhatSteersNothingAndTheOthersInTheirOrder) {
+    const auto u = BareFrames::hyperboloid(Hyperboloid::USPACE);
+    const auto x = BareFrames::hyperboloid(Hyperboloid::XSPACE);
+    const auto m = BareFrames::hyperboloid(Hyperboloid::MSPACE);
+    const auto first = BareFrames::helix();
+    const auto second = BareFrames::helix();
+    u->SetPreviousHelix(second.get());
+    x->SetPreviousHelix(first.get());
+    labels.showSurfaces({u.get(), x.get(), m.get()});
+    const QStringList sentences = text("steeringLabel").split(" · ");
+    ASSERT_EQ(sentences.size(), 3);
+    EXPECT_TRUE(sentences[0].startsWith(m->windowTitle() + " (M) steers no helix"));
+    EXPECT_TRUE(sentences[1].startsWith(u->windowTitle() + " (U) steers"));
+    EXPECT_TRUE(sentences[2].startsWith(x->windowTitle() + " (X) steers"));
+    QTextDocument tip;
+    tip.setHtml(label("steeringLabel").toolTip());
+    EXPECT_EQ(tip.toPlainText(), sentences.join('\n')) << "each on a line of its own";
 }
 
 TEST_F(StatusLabelsTest, TellTogetherWhichSurfacesSteerTheSameHelix) {
@@ -164,11 +191,11 @@ TEST_F(StatusLabelsTest, ShowARefusalInTheRoomOfTheSteeringUntilItIsTakenBack) {
               "hold");
     EXPECT_TRUE(label("refusedParametersLabel").isVisible());
     EXPECT_FALSE(label("steeringLabel").isVisible());
-    EXPECT_FALSE(label("viewerTitleLabel").isVisible());
+    expectViewIsTold(false);
     labels.showSurfaces({u.get()});
     EXPECT_FALSE(label("steeringLabel").isVisible());
     labels.clearRefused();
     EXPECT_FALSE(label("refusedParametersLabel").isVisible());
     EXPECT_TRUE(label("steeringLabel").isVisible());
-    EXPECT_TRUE(label("viewerTitleLabel").isVisible());
+    expectViewIsTold(true);
 }

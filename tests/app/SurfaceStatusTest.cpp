@@ -119,6 +119,15 @@ TEST(SurfaceStatusTest, KeepsUpWithEveryChangeOfWhatIsSteered) {
         opened.label("steeringLabel").endsWith(": activate a helix, then one of these views"));
 }
 
+TEST(SurfaceStatusTest, TellsWhatIsSteeredWhenCodeHasMovedTheHelices) {
+    const OpenedWindow opened;
+    opened.action("newAct").trigger();
+    opened.tie(opened.firstHelix(), opened.hyperboloid(Hyperboloid::USPACE));
+    opened.window().refresh_helixs(64 * 64);
+    expectRightSteering(opened, "moved");
+    EXPECT_EQ(steeredBy(opened, Hyperboloid::USPACE), opened.firstHelix().windowTitle());
+}
+
 TEST(SurfaceStatusTest, KeepsRefusedNumbersInSightUntilOthersAreAcceptedOrGivenUp) {
     const OpenedWindow opened;
     const auto expectRefused = [&](const char* numbers) {

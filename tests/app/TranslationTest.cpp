@@ -8,6 +8,8 @@
 #include "app/Messages.h"
 #include "app/RefusedParametersText.h"
 #include "app/StartUp.h"
+#include "app/StatusLabels.h"
+#include "app/SteeringText.h"
 #include "app/SurfaceConditionText.h"
 #include "app/WindowMenu.h"
 #include "helix/Helix.h"
@@ -191,6 +193,24 @@ TEST(Translation, WhatIsSaidOfASurfaceBelongsToTheMainWindow) {
     EXPECT_TRUE(
         RefusedParametersText::of(refused, HyperboloidParameters())
             .startsWith("MainWindow/Refused: QMainWindow/K1 = 1.51, QMainWindow/K2 = 1.50"));
+}
+
+TEST(Translation, WhatIsSaidOfSteeringBelongsToTheMainWindow) {
+    const auto m = BareFrames::hyperboloid(Hyperboloid::MSPACE);
+    const auto helix = BareFrames::helix();
+    QStatusBar bar;
+    StatusLabels labels(bar);
+    const MarkingTranslator translator;
+    const QString surface = "MainWindow/" + m->windowTitle() + " (M)";
+    EXPECT_EQ(SteeringText::of({m.get()}),
+              QStringList("MainWindow/" + surface +
+                          " steers no helix: activate a helix, then this view"));
+    m->SetPreviousHelix(helix.get());
+    EXPECT_EQ(SteeringText::of({m.get()}),
+              QStringList("MainWindow/" + surface + " steers " + helix->windowTitle()));
+    labels.show(m.get());
+    EXPECT_EQ(bar.findChild<QLabel*>("steeredHelixLabel")->text(),
+              "MainWindow/" + helix->windowTitle() + ": " + helix->pointText());
 }
 
 TEST(Translation, AboutBoxIsTranslatedAndTheCallForAHelixIsNot) {

@@ -93,6 +93,8 @@ TEST(PrintSize, IsWholeInchesAtThePrintersResolution) {
     EXPECT_EQ(ImageExport::printSize(SbVec2s(71, 600), 72, printer), SbVec2s(0, 2400));
     EXPECT_EQ(ImageExport::printSize(SbVec2s(72, 143), 72, printer), SbVec2s(300, 300));
     EXPECT_EQ(ImageExport::printSize(SbVec2s(3840, 2160), 100, printer), SbVec2s(11400, 6300));
+    // In doubles, 500 pixels would be a little less than the seven inches that they are.
+    EXPECT_EQ(ImageExport::printSize(SbVec2s(500, 701), 500.0F / 7, printer), SbVec2s(2100, 2700));
     // Of 33,300 dots a 16-bit number keeps the rest.
     EXPECT_EQ(ImageExport::printSize(SbVec2s(8000, 600), 72, printer), SbVec2s(-32236, 2400));
 }
@@ -372,6 +374,7 @@ TEST_F(ImageExportTest, FileThatCannotBeOpenedIsReportedAndNothingIsRendered) {
             FileDialogs::saveAs(dialog, folder.filePath("missing/view.eps"));
         })
         .then<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.parent(), &opened.window());
             EXPECT_EQ(box.icon(), QMessageBox::Warning);
             EXPECT_EQ(box.text(),
                       "The file " + folder.filePath("missing/view.eps") + " cannot be written.");

@@ -1,6 +1,7 @@
 #include "tests/program/OwnDisplay.h"
 #include "tests/program/RunningViewer.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace {
@@ -129,11 +130,14 @@ TEST(Program, QuitShortcutEndsItCleanlyAndStoresTheGeometry) {
     EXPECT_TRUE(viewer.storedSettings().contains("size=@Size(1000 800)"));
 }
 
-TEST(Program, TerminationSignalEndsItLikeClosingItsWindow) {
-    RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
-    ASSERT_TRUE(viewer.waitForWindow());
-    viewer.terminate();
-    expectGoodEndAndStored(viewer, "size=@Size(400 400)");
+TEST(Program, EveryTerminationSignalEndsItLikeClosingItsWindow) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        SCOPED_TRACE(number);
+        RunningViewer viewer(qEnvironmentVariable("DISPLAY"));
+        ASSERT_TRUE(viewer.waitForWindow());
+        viewer.send(number);
+        expectGoodEndAndStored(viewer, "size=@Size(400 400)");
+    }
 }
 
 TEST(Program, TerminationSignalEndsItWithADialogOpen) {

@@ -1,6 +1,7 @@
 // What the program says when it is only asked about itself, and when it cannot show anything.
 
 #include "tests/program/RunningViewer.h"
+#include "tests/program/WindowHistory.h"
 
 #include <QDir>
 #include <QFile>
@@ -114,6 +115,7 @@ TEST(ProgramInformation, VersionIsToldWithoutDisplay) {
 TEST(ProgramInformation, HelpNamesTheOptionsWithoutDisplay) {
     const std::string help = answerTo("--help");
     EXPECT_NE(help.find("Shows helices and the quadric surface"), std::string::npos);
+    EXPECT_NE(help.find("-platform"), std::string::npos) << "an option of every Qt program";
     EXPECT_NE(help.find("-h, --help"), std::string::npos);
     EXPECT_NE(help.find("-v, --version"), std::string::npos);
     EXPECT_EQ(answerTo("-h"), help);
@@ -130,6 +132,15 @@ TEST(RefusedStart, SaysThatThereIsNoDisplay) {
     StartedProgram program(TORVANE_PROGRAM, {}, noDisplay);
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_TRUE(program.process.readAllStandardError().contains("There is no display."));
+}
+
+TEST(RefusedStart, DisplayOfTheOtherWindowSystemIsADisplay) {
+    StartedProgram program(TORVANE_PROGRAM, {},
+                           {{"DISPLAY", {}}, {"WAYLAND_DISPLAY", "wayland-9"}});
+    EXPECT_EQ(program.exitCode(), 1);
+    const QByteArray said = program.process.readAllStandardError();
+    EXPECT_TRUE(said.contains("No window system could be used.")) << said.toStdString();
+    EXPECT_FALSE(said.contains("There is no display.")) << said.toStdString();
 }
 
 TEST(RefusedStart, SaysWhatToInstallForTheWindowSystem) {
@@ -158,6 +169,20 @@ TEST(RefusedStart, SaysWhichDriverToInstall) {
     StartedProgram program(TORVANE_PROGRAM, {}, {{"LIBGL_DRIVERS_PATH", "/nowhere"}});
     expectRefusal(program, "Install a driver: libgl1-mesa-dri (Debian",
                   [&] { program.strikeReturnUntilItEnds(); });
+}
+
+TEST(RefusedStart, SplashLeavesTheScreenBeforeTheBoxComes) {
+    WindowHistory history(qEnvironmentVariable("DISPLAY"));
+    const CopiedProgram copy;
+    StartedProgram program(copy.path(), {}, {});
+    expectRefusal(program, "Qt's plug-ins are not in", [&] {
+        ASSERT_TRUE(RunningViewer::waitUntil([&] { return history.changes().size() > 1; }));
+        const std::vector<WindowHistory::Change> changes = history.changes();
+        EXPECT_EQ(changes[0].place.size(), QSize(400, 343)) << "the size of the splash's picture";
+        EXPECT_EQ(changes[1].window, changes[0].window);
+        EXPECT_FALSE(changes[1].shown);
+        program.process.terminate();
+    });
 }
 
 TEST(RefusedStart, TerminationSignalEndsItWhileTheBoxIsUp) {

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
+#include <csignal>
 #include <utility>
 
 namespace {
@@ -219,6 +220,10 @@ bool RunningViewer::closeBeforeItIsShown() const {
         const std::optional<QString> window = xdotool({"search", "--name", mainWindowTitle});
         return window && askToClose(display.toStdString(), window->trimmed().toULong());
     });
+}
+
+void RunningViewer::send(int number) const {
+    kill(static_cast<pid_t>(process.processId()), number);
 }
 
 bool RunningViewer::waitForEnd() {

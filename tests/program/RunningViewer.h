@@ -73,6 +73,8 @@ public:
     /** Asks the main window to close as soon as it exists, before it is on the screen. */
     bool closeBeforeItIsShown() const;
     void terminate() { process.terminate(); }
+    /** Sends the program a signal by its number. */
+    void send(int number) const;
     bool waitForEnd();
     /** Strikes a key until the program has ended: a window manager may miss the first stroke, as
         it takes its keys anew when a keyboard is used for the first time. */
