@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolTip>
 #include <optional>
@@ -117,7 +118,9 @@ private:
                 showTip(text);
                 return;
             }
-            QToolTip::showText(this->mapToGlobal(this->rect().bottomLeft()), text, this->window());
+            // What was typed may look like rich text, and each of its spaces counts.
+            QToolTip::showText(this->mapToGlobal(this->rect().bottomLeft()),
+                               Qt::convertFromPlainText(text), this->window());
         });
     }
 

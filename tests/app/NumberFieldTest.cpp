@@ -3,13 +3,16 @@
 
 #include "app/NumberField.h"
 
+#include "tests/support/MarkingTranslator.h"
 #include "tests/support/Waiting.h"
 #include "tests/support/Wheel.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QSlider>
+#include <QTextDocumentFragment>
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -56,6 +59,33 @@ protected:
         QTest::keyClick(&field, Qt::Key_Tab);
         EXPECT_FALSE(field.hasFocus());
         return field.text();
+    }
+
+    /** The window of the tip that is seen, null when there is none. */
+    static QWidget* tipWindow() {
+        for (QWidget* shownWindow : QApplication::topLevelWidgets()) {
+            if (shownWindow->isVisible() && shownWindow->inherits("QTipLabel")) {
+                return shownWindow;
+            }
+        }
+        return nullptr;
+    }
+
+    /** What is read in the tip that comes, which is closed then. */
+    static QString tip() {
+        if (!waitUntil([] { return tipWindow() != nullptr; })) {
+            return "no tip";
+        }
+        QString text = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+        // The toolkit's own way to hide it takes its time.
+        tipWindow()->close();
+        return text;
+    }
+
+    /** What the tip says of a text that the field of decimals does not take. */
+    QString explained(const QString& refused) const {
+        return '"' + refused + "\" is not taken: enter a number from " + shown(-100) + " to " +
+               shown(100) + " with at most 2 decimals.";
     }
 
     QString shown(double value) const { return window.locale().toString(value, 'f', 2); }
@@ -118,15 +148,15 @@ TEST_P(NumberFieldTest, NeverTakesAnotherNumberThanTheOneEntered) {
 }
 
 TEST_P(NumberFieldTest, EnterOnARefusedTextGoesNoFurtherAndSaysWhy) {
-    type(*decimal, "200");
-    QKeyEvent refused(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QApplication::sendEvent(decimal, &refused);
-    EXPECT_TRUE(refused.isAccepted());
-    EXPECT_EQ(decimal->text(), shown(1.37));
-    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
-    EXPECT_EQ(QToolTip::text(), "\"200\" is not taken: enter a number from " + shown(-100) +
-                                    " to " + shown(100) + " with at most 2 decimals.");
-    QToolTip::hideText();
+    for (const auto& [key, modifier] : {std::pair(Qt::Key_Return, Qt::NoModifier),
+                                        std::pair(Qt::Key_Enter, Qt::KeypadModifier)}) {
+        type(*decimal, "200");
+        QKeyEvent refused(QEvent::KeyPress, key, modifier);
+        QApplication::sendEvent(decimal, &refused);
+        EXPECT_TRUE(refused.isAccepted()) << key;
+        EXPECT_EQ(decimal->text(), shown(1.37));
+        EXPECT_EQ(tip(), explained("200"));
+    }
 
     type(*decimal, "12,5");
     QKeyEvent taken(QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier);
@@ -136,9 +166,37 @@ TEST_P(NumberFieldTest, EnterOnARefusedTextGoesNoFurtherAndSaysWhy) {
 
     type(*whole, "2.5");
     QTest::keyClick(whole, Qt::Key_Return);
-    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
-    EXPECT_EQ(QToolTip::text(), "\"2.5\" is not taken: enter a whole number from -2000 to 2000.");
-    QToolTip::hideText();
+    EXPECT_EQ(tip(), "\"2.5\" is not taken: enter a whole number from -2000 to 2000.");
+}
+
+TEST_P(NumberFieldTest, LeavingARefusedTextSaysWhyBelowTheField) {
+    window.move(200, 150);
+    type(*decimal, "200");
+    leave(*decimal);
+    ASSERT_TRUE(waitUntil([] { return tipWindow() != nullptr; })) << "leaving does not hide it";
+    constexpr int closeBy = 60;
+    const int below = tipWindow()->y() - decimal->mapToGlobal(decimal->rect().bottomLeft()).y();
+    EXPECT_GT(below, 0);
+    EXPECT_LT(below, closeBy);
+    EXPECT_EQ(tip(), explained("200"));
+}
+
+TEST_P(NumberFieldTest, TheTipShowsARefusedTextAsItWasTyped) {
+    for (const char* text : {"%2", "<b>5", "&lt;5", "5  5"}) {
+        type(*decimal, text);
+        leave(*decimal);
+        EXPECT_EQ(tip(), explained(text));
+    }
+}
+
+TEST_P(NumberFieldTest, TheTipIsTranslated) {
+    const MarkingTranslator translator;
+    for (QAbstractSpinBox* field :
+         {static_cast<QAbstractSpinBox*>(decimal), static_cast<QAbstractSpinBox*>(whole)}) {
+        type(*field, "9999");
+        leave(*field);
+        EXPECT_TRUE(tip().startsWith("NumberField/\"9999\" is not taken"));
+    }
 }
 
 TEST_P(NumberFieldTest, TheTipIsSeenOnceTheMouseButtonThatLeftTheFieldIsUpAgain) {
@@ -151,9 +209,7 @@ TEST_P(NumberFieldTest, TheTipIsSeenOnceTheMouseButtonThatLeftTheFieldIsUpAgain)
     QTest::qWait(longerThanTheTipTakes);
     EXPECT_FALSE(QToolTip::isVisible()) << "letting go would hide it";
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, other);
-    EXPECT_TRUE(waitUntil([] { return QToolTip::isVisible(); }));
-    EXPECT_TRUE(QToolTip::text().startsWith("\"200\" is not taken"));
-    QToolTip::hideText();
+    EXPECT_TRUE(tip().startsWith("\"200\" is not taken"));
 }
 
 TEST_P(NumberFieldTest, ARefusedTextGivesWayToTheLastValueThatWasSettled) {
@@ -174,6 +230,17 @@ TEST_P(NumberFieldTest, AStepFromARefusedTextStartsFromTheLastValueThatWasSettle
     QTest::keyClick(decimal, Qt::Key_Up);
     EXPECT_EQ(decimal->text(), shown(1.38));
     EXPECT_DOUBLE_EQ(decimal->value(), 1.38);
+}
+
+TEST_P(NumberFieldTest, ReadsWhatItShowsInALocaleOfItsOwn) {
+    for (QAbstractSpinBox* field :
+         {static_cast<QAbstractSpinBox*>(decimal), static_cast<QAbstractSpinBox*>(whole)}) {
+        // Its minus is not the one of the keyboard.
+        field->setLocale(QLocale("sv_SE"));
+        field->setProperty("value", -37);
+        EXPECT_TRUE(field->text().startsWith(field->locale().negativeSign()));
+        EXPECT_TRUE(field->hasAcceptableInput());
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Locales, NumberFieldTest, testing::Values("C", "de_DE", "fr_FR"));

@@ -208,7 +208,14 @@ TEST_F(CommandLineTest, HelpNamesRangesAndStartValues) {
     EXPECT_NE(helped.find("--K2 NUMBER"), std::string::npos);
     EXPECT_NE(helped.find("second diagonal entry of K (0.01 to 100; start value 1.5)"),
               std::string::npos);
-    EXPECT_NE(helped.find("radius of the tube (0 to 0.1; start value 0.01)"), std::string::npos);
+    for (const char* helixParameter :
+         {"radius of the tube (0 to 0.1; start value 0.01)",
+          "width of the ribbon (0 to 0.2; start value 0.05)",
+          "number of turns (0 to 10; start value 5)",
+          "vertices of the centre line in a turn (5 to 200; start value 50)",
+          "vertices around a ring of the tube (5 to 100; start value 16)"}) {
+        EXPECT_NE(helped.find(helixParameter), std::string::npos) << helixParameter;
+    }
     EXPECT_NE(helped.find("--point-radius LENGTH"), std::string::npos);
     EXPECT_NE(helped.find("--tube-radius LENGTH"), std::string::npos);
     EXPECT_NE(helped.find("--u3axis-radius LENGTH"), std::string::npos);

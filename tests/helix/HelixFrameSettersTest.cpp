@@ -44,6 +44,14 @@ Helix freshHelix(const Setter& setter) {
     return helix;
 }
 
+/** A kind of helix frame that draws in a way of its own. */
+class DrawingOtherwise : public HelixFrame {
+public:
+    using HelixFrame::HelixFrame;
+    void Draw() override { ++drawings; }
+    int drawings = 0;
+};
+
 } // namespace
 
 TEST(HelixFrameSettersTest, EachSetterAloneLeavesTheTablesOfAFreshHelix) {
@@ -105,4 +113,17 @@ TEST(HelixFrameSettersTest, SetterWithRedrawSamplesWhatOneWithoutLeftToItToo) {
     EXPECT_EQ(frame.getHelix().getLineVertices(), expected.getLineVertices());
     EXPECT_EQ(frame.getHelix().getTubeVertices(), expected.getTubeVertices());
     EXPECT_EQ(frame.getHelix().getRibbonVertices(), expected.getRibbonVertices());
+}
+
+TEST(HelixFrameSettersTest, EachSetterWithRedrawDrawsOnceAsItsKindOfFrameDoes) {
+    for (const Setter& setter : setters) {
+        SCOPED_TRACE(setter.name);
+        DrawingOtherwise frame(1, 0.5F, 0.25F, 1, 0, 0, 17, true, nullptr);
+        frame.initialize();
+        const int before = frame.drawings;
+        setter.set(frame, false);
+        EXPECT_EQ(frame.drawings, before);
+        setter.set(frame, true);
+        EXPECT_EQ(frame.drawings, before + 1);
+    }
 }

@@ -47,12 +47,14 @@ public:
         title = frame->viewerTitle();
         line = frame->getHelix().getLineVertices();
         torsion = frame->getHelix().getTorsion();
+        index = frame->getIndex();
     }
 
     const HelixFrame* frame = nullptr;
     QString title;
     Helix::Table line;
     float torsion = 0;
+    int index = 0;
 };
 
 } // namespace
@@ -139,6 +141,7 @@ TEST(HelixFrameTest, RefreshShowsTheCoordinatesBeforeItSamplesTheTables) {
     frame.refresh(-0.7F, 1.3F, 0.4F, 42, 0, 1, 0);
     EXPECT_EQ(owner.title, "U = (-0.7; 1.3; 0.4)");
     EXPECT_EQ(owner.torsion, 0.4F);
+    EXPECT_EQ(owner.index, 42);
     EXPECT_EQ(owner.line, before);
     EXPECT_NE(frame.getHelix().getLineVertices(), before);
 }

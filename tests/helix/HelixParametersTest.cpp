@@ -136,6 +136,14 @@ TEST(HelixParameters, PhiOfACurvatureThatSinglePrecisionCannotHoldIsTheFirstCoor
     EXPECT_EQ(helix.getPhi(), 1e-30F);
 }
 
+TEST(HelixParameters, OnlyAQuotientThatIsNoNumberIsReported) {
+    Helix helix;
+    // Vanishing: the quotient of the second coordinate and the curvature is infinite.
+    EXPECT_TRUE(helix.refresh_param(0, 1e-30F, 1, 0, 0, 0));
+    EXPECT_EQ(helix.getCurvature(), 0);
+    EXPECT_FALSE(helix.refresh_param(0, std::numeric_limits<float>::infinity(), 1, 0, 0, 0));
+}
+
 TEST(HelixParameters, StraightRodIsReportedAndStaysDrawable) {
     Helix helix;
     EXPECT_FALSE(helix.refresh_param(0, 0, 2, 1, 1, 1));

@@ -83,12 +83,15 @@ TEST(HelixTables, CountChangedWithoutNewTablesLeavesTheOldOnesAlone) {
 }
 
 TEST(HelixTables, NewTablesForSomeOfTheCountsOnlyAreNotEnough) {
-    Helix helix;
-    helix.setPrecisionLine(37);
-    helix.init_tables(true, false, true);
-    expectComplaints(helix);
-    helix.init_tables(false, true, false);
-    EXPECT_NO_THROW(helix.generatePoints(true, true, true));
+    for (int missing = 0; missing < 3; ++missing) {
+        SCOPED_TRACE(missing);
+        Helix helix;
+        helix.setPrecisionLine(37);
+        helix.init_tables(missing != 0, missing != 1, missing != 2);
+        expectComplaints(helix);
+        helix.init_tables(missing == 0, missing == 1, missing == 2);
+        EXPECT_NO_THROW(helix.generatePoints(true, true, true));
+    }
 }
 
 TEST(HelixTables, CountThatComesBackFitsAgain) {

@@ -535,6 +535,19 @@ TEST(HyperboloidMarkers, TheCenterIsExactlyTheOriginOfXSpace) {
               SbVec3f(0.0F, 0.0F, 0.0F));
 }
 
+TEST(HyperboloidMarkers, OfAVertexHasTheVertexsColourAsItsDiffuseOneOnly) {
+    constexpr int place = 777;
+    const ExposedHyperboloid hyperboloid(ordinary, Hyperboloid::USPACE);
+    const NodePointer<SoSeparator> marker(hyperboloid.DrawVertex("Helix_17", place));
+    EXPECT_EQ(nameOf(marker.get()), "Helix_17");
+    ASSERT_EQ(marker->getNumChildren(), 3);
+    const FloatTriple& color = hyperboloid.colors[place];
+    expectDiffuseColorOnly(childAs<SoMaterial>(marker.get(), 0), {color.x, color.y, color.z});
+    const FloatTriple& vertex = hyperboloid.vertices[place];
+    expectTranslation(childAs<SoTransform>(marker.get(), 1), {vertex.x, vertex.y, vertex.z});
+    EXPECT_EQ(marker->getChild(2), hyperboloid.sphereGroup.get());
+}
+
 TEST(HyperboloidMarkers, AreCarriedInDoubleAndNarrowedAtTheEnd) {
     const Vecteur point(0.1, -0.7, 1.3);
     const auto placeOf = [](SoSeparator* node) {

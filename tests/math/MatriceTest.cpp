@@ -5,6 +5,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -277,6 +278,14 @@ TEST(Matrice, RowOfAnotherLengthFailsInTheRow) {
               "Difference de vecteurs Erreur: dimensions pas egales");
 }
 
+TEST(Matrice, HasAsManyColumnsAsItsFirstRow) {
+    for (const auto& [row, columns] : {std::pair(0, 4), std::pair(1, 3), std::pair(2, 3)}) {
+        Matrice uneven;
+        uneven[row].ajoute(5);
+        EXPECT_EQ(uneven.Csize(), columns) << row;
+    }
+}
+
 TEST(Matrice, RowAccessesInsideTheOperationsAreChecked) {
     Matrice narrow;
     for (int i = 0; i < 3; ++i) {
@@ -298,6 +307,15 @@ TEST(Matrice, PrintsWholeRowsButOnlyThreeValuesOfTheLast) {
     EXPECT_EQ(printed(withFourColumns()), "[ [  1.00000  0.00000  0.00000  7.00000 ]\n"
                                           "  [  0.00000  1.00000  0.00000  8.00000 ]\n"
                                           "  [  0.00000  0.00000  1.00000 ] ]\n");
+    // Of two there is no third.
+    EXPECT_EQ(thrownBy([] { printed(withTwoColumns()); }),
+              "Erreur surcharge []: dimension depassee.");
+}
+
+TEST(Matrice, PrintsARowThatIsLongerThanTheFirstLikeTheFirst) {
+    Matrice uneven;
+    uneven[1].ajoute(5);
+    EXPECT_EQ(printed(uneven), printed(Matrice()));
 }
 
 TEST(Matrice, PrintsInTheStreamsPrecisionAndClearsTheFlag) {

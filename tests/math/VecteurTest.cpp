@@ -164,6 +164,12 @@ TEST(Vecteur, OppositeLeavesTheVector) {
     EXPECT_EQ(v, Vecteur(1, -2, 3));
 }
 
+TEST(Vecteur, OppositeOfZeroHasTheOtherSign) {
+    const Vecteur opposite = Vecteur(0.0, -0.0, 1).oppose();
+    EXPECT_TRUE(std::signbit(opposite.GetCoord(0)));
+    EXPECT_FALSE(std::signbit(opposite.GetCoord(1)));
+}
+
 TEST(Vecteur, ModuleIsTheNorm) {
     EXPECT_EQ(Vecteur(3, 4, 0).Module(), 5);
     EXPECT_EQ(Vecteur(0).Module(), 0.0);
