@@ -4,7 +4,12 @@ namespace {
 
 volatile std::sig_atomic_t noted = 0;
 
-void note(int /*signal*/) {
+/** Notes the first signal; the second ends the program as if nobody handled it. */
+void note(int signal) {
+    if (noted != 0) {
+        std::signal(signal, SIG_DFL);
+        std::raise(signal);
+    }
     noted = 1;
 }
 
@@ -15,8 +20,12 @@ Interruption::Interruption()
     noted = 0;
     struct sigaction noting {};
     noting.sa_handler = note;
-    // The second signal ends the program; what is being written when the first comes goes on.
-    noting.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
+    // What is being written when the first signal comes goes on.
+    noting.sa_flags = SA_RESTART;
+    for (const Handler& handler : handlers) {
+        // One waits until the other is noted.
+        sigaddset(&noting.sa_mask, handler.signal);
+    }
     for (Handler& handler : handlers) {
         sigaction(handler.signal, nullptr, &handler.previous);
         if (handler.previous.sa_handler != SIG_IGN) {

@@ -5,8 +5,8 @@
 
 /**
  * Lets the user end the program between two sets, so that no file is left half made: as long as it
- * lives, the first SIGINT or SIGTERM is only noted. The second ends the program at once. A signal
- * that the program was started to ignore, as nohup does, stays ignored.
+ * lives, the first SIGINT or SIGTERM is only noted. The second, of either kind, ends the program at
+ * once. A signal that the program was started to ignore, as nohup does, stays ignored.
  */
 class Interruption {
 public:

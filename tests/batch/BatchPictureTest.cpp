@@ -96,7 +96,9 @@ TEST_F(BatchPictureTest, SizeNeedNotBeWholeInches) {
 
 TEST_F(BatchPictureTest, ResolutionStandsInThePicture) {
     constexpr double inchesPerMetre = 1 / 0.0254;
-    EXPECT_EQ(picture("U").dotsPerMeterX(), qRound(60 * inchesPerMetre));
+    const QImage image = picture("U");
+    EXPECT_EQ(image.dotsPerMeterX(), qRound(60 * inchesPerMetre));
+    EXPECT_EQ(image.dotsPerMeterY(), qRound(60 * inchesPerMetre));
 }
 
 TEST_F(BatchPictureTest, PictureCanGoToStandardOutput) {

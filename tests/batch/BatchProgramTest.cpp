@@ -71,7 +71,7 @@ TEST_F(BatchProgramTest, BrokenConditionIsRefusedWithItsFormulaAndNumbers) {
 }
 
 TEST_F(BatchProgramTest, VertexThatIsNotOnTheGridIsRefused) {
-    for (const char* vertex : {"35", "-1", "5,0", "0,7"}) {
+    for (const char* vertex : {"35", "-1", "5,0", "0,7", "1,-1", "-1,5"}) {
         const BatchProgram ended =
             run({"--grid", "5x7", "--vertex", vertex, "--text", "helix=h.txt"});
         EXPECT_EQ(ended.exitCode, 2);
@@ -97,6 +97,14 @@ TEST_F(BatchProgramTest, TargetThatCannotBeWrittenIsToldAndAllElseIsMade) {
     EXPECT_EQ(ended.errors, "Not made: missing/u.txt (No such file or directory)\n"
                             "Not made: . (Is a directory)\n");
     EXPECT_EQ(files(), QStringList("x.txt"));
+}
+
+TEST_F(BatchProgramTest, LinkInTheWorkingFolderStaysAndItsTargetIsWritten) {
+    ASSERT_TRUE(QFile::link("there.txt", folder.filePath("link.txt")));
+    const BatchProgram ended = run({"--grid", "9x9", "--text", "U=link.txt"});
+    EXPECT_EQ(ended.errors.toStdString(), "");
+    EXPECT_EQ(QFileInfo(folder.filePath("link.txt")).symLinkTarget(), folder.filePath("there.txt"));
+    EXPECT_TRUE(contentOf(folder.filePath("there.txt")).startsWith("Hyperboloid Parameters:\n"));
 }
 
 TEST_F(BatchProgramTest, FullDiskLeavesAnOlderFileAsItWas) {
@@ -139,6 +147,16 @@ TEST_F(BatchProgramTest, FullStandardOutputIsToldAndAllElseIsMade) {
     EXPECT_EQ(ended.exitCode, 1);
     EXPECT_EQ(ended.errors, "Not made: - (No space left on device)\n");
     EXPECT_EQ(files(), QStringList("x.txt"));
+}
+
+TEST_F(BatchProgramTest, PictureOntoAFullDiskIsToldWithTheReasonOfTheSystem) {
+    for (const char* output : {"U=-.eps", "U=-.png"}) {
+        const BatchProgram ended =
+            runOntoAFullDisk({"--size", "1x1", "--dpi", "20", "--image", output});
+        EXPECT_EQ(ended.exitCode, 1);
+        EXPECT_TRUE(ended.errors.endsWith(" (No space left on device)\n"))
+            << ended.errors.constData();
+    }
 }
 
 TEST_F(BatchProgramTest, HelpAndListsThatNobodyGetsAreNoSuccess) {

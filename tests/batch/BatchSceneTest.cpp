@@ -61,3 +61,16 @@ TEST(BatchScene, WhatIsNowhereIsLeftOutOfVrml) {
     EXPECT_LT(shapes(nowhere), shapes(degenerate));
     EXPECT_LT(shapes(degenerate), shapes(ordinary));
 }
+
+TEST(BatchScene, HelixOfAPointIsColouredByItsOwnVerticesAndHasNoSphereOnTheSurfaces) {
+    const auto count = [](const char* text, const QStringList& helix, const QString& document) {
+        return BatchProgram::run(helix + QStringList{"--grid", "9x9", "--scene", document + "=-"})
+            .output.count(text);
+    };
+    const QStringList ofVertex{"--vertex", "7"};
+    const QStringList ofPoint{"--u", "0.5,0.25,-1.5"};
+    EXPECT_EQ(count("DEF Helix_1", ofVertex, "U"), 1);
+    EXPECT_EQ(count("DEF Helix_1", ofPoint, "U"), 0);
+    // The tube and the ribbon.
+    EXPECT_EQ(count("PER_VERTEX", ofPoint, "helix"), count("PER_VERTEX", ofVertex, "helix") + 2);
+}

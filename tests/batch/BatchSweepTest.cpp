@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -25,19 +26,44 @@ protected:
         return terminal.readAllStandardOutput();
     }
 
-    /** Starts the program on a sweep of texts, by way of another one perhaps, and waits for the
-     * first. */
-    void startSweep(QProcess& process, const QString& program, int count,
-                    const QStringList& before = {}) const {
+    /** Starts a program, and waits for the first file. */
+    void start(QProcess& process, const QString& program, const QStringList& arguments) const {
         process.setProcessEnvironment(BatchProgram::bareEnvironment());
         process.setWorkingDirectory(folder.path());
-        process.start(program,
-                      before + QStringList{"--sweep", QString("K13=-0.5:0.5:%1").arg(count),
-                                           "--text", "U={K13}", "--text", "X=x{K13}"});
+        process.start(program, arguments);
         ASSERT_TRUE(process.waitForStarted());
         while (files().isEmpty() && process.state() == QProcess::Running) {
             process.waitForReadyRead(1);
         }
+    }
+
+    /** Starts the program on a sweep of texts, by way of another one, and waits for the first. */
+    void startSweep(QProcess& process, const QString& program, int count,
+                    const QStringList& before) const {
+        start(process, program,
+              before + QStringList{TORVANE_BATCH, "--sweep", QString("K13=-0.5:0.5:%1").arg(count),
+                                   "--text", "U={K13}", "--text", "X=x{K13}"});
+    }
+
+    static void send(int signal, const QProcess& process) {
+        // Of a program that has ended it is 0, which would be everybody.
+        ASSERT_GT(process.processId(), 0);
+        kill(static_cast<pid_t>(process.processId()), signal);
+    }
+
+    /** Sends a signal, and waits until the program has it. */
+    static void deliver(int signal, QProcess& process) {
+        send(signal, process);
+        while (process.state() == QProcess::Running && isPending(signal, process.processId())) {
+            process.waitForFinished(1);
+        }
+    }
+
+    static bool isPending(int signal, qint64 program) {
+        const QByteArray label = "ShdPnd:\t";
+        const QByteArray status = contentOf(QString("/proc/%1/status").arg(program));
+        const QByteArray set = status.mid(status.indexOf(label) + label.size(), 16);
+        return (set.toULongLong(nullptr, 16) >> (signal - 1) & 1U) != 0;
     }
 
     QTemporaryDir folder;
@@ -143,8 +169,8 @@ TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {
     for (const int signal : {SIGTERM, SIGINT}) {
         QProcess process;
         // What a shell runs in the background ignores the interrupt, these tests perhaps.
-        startSweep(process, "env", 100000, {"--default-signal=INT", TORVANE_BATCH});
-        kill(static_cast<pid_t>(process.processId()), signal);
+        startSweep(process, "env", 100000, {"--default-signal=INT"});
+        send(signal, process);
         ASSERT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(process.exitCode(), 1);
@@ -162,10 +188,30 @@ TEST_F(BatchSweepTest, InterruptedItFinishesTheSetAndLeavesNoHalfFile) {
     }
 }
 
+TEST_F(BatchSweepTest, SecondSignalOfEitherKindEndsItAtOnce) {
+    // Whoever opens it to write waits until somebody reads.
+    ASSERT_EQ(mkfifo(folder.filePath("pipe").toLocal8Bit().constData(), 0600), 0);
+    for (const auto& [first, second] :
+         {std::pair(SIGTERM, SIGTERM), {SIGINT, SIGTERM}, {SIGTERM, SIGINT}}) {
+        QProcess process;
+        start(process, "env",
+              {"--default-signal=INT", TORVANE_BATCH, "--grid", "9x9", "--text", "X=first",
+               "--text", "U=pipe"});
+        deliver(first, process);
+        EXPECT_EQ(process.state(), QProcess::Running) << "it only notes the first";
+        send(second, process);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(process.exitCode(), second);
+        EXPECT_EQ(files(), QStringList("first"));
+        QFile::remove(folder.filePath("first"));
+    }
+}
+
 TEST_F(BatchSweepTest, SignalThatItWasStartedToIgnoreStaysIgnored) {
     QProcess process;
-    startSweep(process, "sh", 200, {"-c", R"(trap '' INT; exec "$0" "$@")", TORVANE_BATCH});
-    kill(static_cast<pid_t>(process.processId()), SIGINT);
+    startSweep(process, "sh", 200, {"-c", R"(trap '' INT; exec "$0" "$@")"});
+    send(SIGINT, process);
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
     EXPECT_EQ(files().size(), 2 * 200);

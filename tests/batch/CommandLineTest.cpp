@@ -65,6 +65,17 @@ TEST_F(CommandLineTest, RealNumbersStayDoublesAndCountsAreWhole) {
     expectRefused({"--K1", "nan"}, "--K1: nan is no number");
 }
 
+TEST_F(CommandLineTest, CountsPercentsAndDotsPerInchAreWholeAndInTheirRanges) {
+    for (const std::string name :
+         {"--turns", "--line-precision", "--tube-precision", "--transparency", "--dpi"}) {
+        expectRefused({name.c_str(), "7.5"}, name + ": 7.5 is no whole number");
+    }
+    expectRefused({"--grid", "5.5x7"}, "--grid: 5.5 is no whole number");
+    expectRefused({"--transparency", "101"}, "--transparency: 101 is not in 0 to 100");
+    expectRefused({"--dpi", "9601"}, "--dpi: 9601 is not in 1 to 9600");
+    expectRefused({"--screen-dpi", "0.5"}, "--screen-dpi: 0.5 is not in 1 to 9600");
+}
+
 TEST_F(CommandLineTest, GridIsColumnsAndRows) {
     const HyperboloidParameters set = taken({"--grid", "17x33"}).parameters;
     EXPECT_EQ(set.horizontalPrecision, 17);
@@ -72,6 +83,10 @@ TEST_F(CommandLineTest, GridIsColumnsAndRows) {
     expectRefused({"--grid", "4x33"}, "--grid: 4 is not in 5 to 500");
     expectRefused({"--grid", "17"}, "--grid: 17 is not two whole numbers with an x between them");
     expectRefused({"--grid", "17x33", "--rows", "9", "--text", "U=-"}, "--rows excludes --grid");
+    expectRefused({"--grid", "17x33", "--columns", "9", "--text", "U=-"},
+                  "--columns excludes --grid");
+    expectRefused({"--grid", "17x33x5"},
+                  "--grid: 17x33x5 is not two whole numbers with an x between them");
 }
 
 TEST_F(CommandLineTest, HelixIsPlacedByVertexOrByPoint) {
@@ -84,7 +99,10 @@ TEST_F(CommandLineTest, HelixIsPlacedByVertexOrByPoint) {
     EXPECT_EQ(point.y, 1.5F);
     EXPECT_EQ(point.z, 2.0F);
     expectRefused({"--vertex", "1,2,3"}, "--vertex: 1,2,3 is neither INDEX nor COLUMN,ROW");
-    expectRefused({"--u", "1,2"}, "--u: 1,2 is not three numbers separated by commas");
+    for (const std::string text : {"1,2", "1,2,3,4", "1e39,0,0"}) {
+        expectRefused({"--u", text.c_str()},
+                      "--u: " + text + " is not three numbers separated by commas");
+    }
     expectRefused({"--u", "1,2,3", "--vertex", "1"}, "--vertex excludes --u");
 }
 
@@ -118,9 +136,10 @@ TEST_F(CommandLineTest, PicturesHaveLookCameraAndSize) {
     expectRefused({"--look", "shiny"}, "--look: There is no look shiny, only lit, plain and lines");
     expectRefused({"--camera", "fish"},
                   "--camera: There is no camera fish, only orthographic and perspective");
-    expectRefused({"--size", "3"}, "--size: 3 is not two numbers above 0 with an x between them");
-    expectRefused({"--size", "0x2"},
-                  "--size: 0x2 is not two numbers above 0 with an x between them");
+    for (const std::string text : {"3", "0x2", "3x2x1"}) {
+        expectRefused({"--size", text.c_str()},
+                      "--size: " + text + " is not two numbers above 0 with an x between them");
+    }
     expectRefused({"--zoom", "0"}, "--zoom: 0 is not in 0.001 to 1000");
 }
 
@@ -132,6 +151,7 @@ TEST_F(CommandLineTest, OutputsNameDocumentFileAndKind) {
     EXPECT_EQ(result.options->outputs[1].file, "b=c.png");
     EXPECT_EQ(result.options->outputs[1].document, Document::helix);
     expectRefused({"--text", "u.txt"}, "--text: u.txt is not DOCUMENT=FILE");
+    expectRefused({"--text", "U="}, "--text: U= is not DOCUMENT=FILE");
     expectRefused({"--text", "Z=u.txt"}, "--text: There is no document Z, only U, X, M and helix");
     expectRefused({"--image", "U=u.jpg"}, "--image: u.jpg ends neither in .eps nor in .png");
     expectRefused({"--scene", "U=u.obj"}, "--scene: u.obj ends neither in .iv nor in .wrl");
@@ -152,6 +172,9 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
                   "rows is both given and swept");
     expectRefused({"--sweep", "K13=0:1:1001", "--sweep", "K23=0:1:1000", "--text", "U={K13},{K23}"},
                   "The sweeps make more than 1000000 sets");
+    // So many are not too many.
+    expectRefused({"--sweep", "K13=0:1:1000", "--sweep", "K23=0:1:1000", "--text", "U={K13}"},
+                  "{K13} would be written again and again: {K23} is not in its name");
     expectRefused({"--sweep", "columns=11:12:2", "--sweep", "rows=11:12:2", "--list", "--text",
                    "U={columns},{rows}", "--text", "X={rows},{columns}"},
                   "11,11 is to be written twice: by {columns},{rows} for columns = 11, rows = 11 "
@@ -162,6 +185,10 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
                   "What is up in the picture may not be where the camera looks");
     expectRefused({"--direction", "1e30,0,0", "--up", "-3e38,0,0", "--text", "U=-"},
                   "What is up in the picture may not be where the camera looks");
+    // Rounded, they are not quite parallel.
+    expectRefused({"--direction", "4,5,6", "--up", "2.8,3.5,4.2", "--text", "U=-"},
+                  "What is up in the picture may not be where the camera looks");
+    EXPECT_EQ(taken({"--direction", "0.001,-2,0"}).viewpoint.direction, SbVec3f(0.001F, -2, 0));
     EXPECT_EQ(taken({"--direction", "1e30,0,0"}).viewpoint.direction, SbVec3f(1e30F, 0, 0));
     EXPECT_EQ(taken({"--direction", "0,1e-30,0", "--up", "0,0,3e38"}).viewpoint.up[2], 3e38F);
     expectRefused({"--size", "110x5", "--text", "U=-"},
@@ -169,9 +196,19 @@ TEST_F(CommandLineTest, ContradictionsAreRefused) {
     expectRefused({"--size", "26755x26755", "--dpi", "1", "--text", "U=-"},
                   "A picture has 715827882 dots at most");
     EXPECT_EQ(taken({"--size", "26755x26754", "--dpi", "1"}).paper.width, 26755);
+    EXPECT_EQ(taken({"--size", "32767x1", "--dpi", "1"}).paper.width, 32767);
     expectRefused({"--size", "5x0.001", "--text", "U=-"},
                   "A picture is a dot wide and high at least");
     expectRefused({"--list", "--text", "U=a\nb"}, "A name with a line break cannot be listed: a");
+}
+
+TEST_F(CommandLineTest, ParameterMayBeSweptWhenOnlyAnotherOfALongerNameIsGiven) {
+    const std::vector<std::vector<const char*>> commands{
+        {"--K13", "0.25", "--sweep", "K1=0.5:1:2", "--text", "U={K1}"},
+        {"--K23", "0.25", "--sweep", "K2=1.5:2:2", "--text", "U={K2}"}};
+    for (const auto& command : commands) {
+        EXPECT_TRUE(read(command).options) << said;
+    }
 }
 
 TEST_F(CommandLineTest, OptionsCanStandInAFile) {

@@ -43,7 +43,9 @@ TEST(Sweep, EndsStayAsTheyAreGiven) {
 
 TEST(Sweep, WhatIsNoSweepIsRefusedWithTheReason) {
     EXPECT_EQ(refusalOf("K13"), "K13 is not NAME=START:STOP:COUNT");
-    EXPECT_EQ(refusalOf("K13=1:2"), "K13=1:2 is not NAME=START:STOP:COUNT");
+    for (const std::string text : {"K13=1:2", "K13=0:1:3:9", "K13=K3=0:1:3"}) {
+        EXPECT_EQ(refusalOf(text.c_str()), text + " is not NAME=START:STOP:COUNT");
+    }
     EXPECT_EQ(refusalOf("K14=1:2:3"), "There is no parameter K14");
     EXPECT_EQ(refusalOf("K13=a:2:3"), "a is no number");
     EXPECT_EQ(refusalOf("K13=1:2:0"), "0 is no number of values");
@@ -56,6 +58,7 @@ TEST(Sweep, WhatIsNoSweepIsRefusedWithTheReason) {
               "K13=0.5:0.500000000001:4 takes the value 0.5 more than once")
         << "once it is rounded";
     EXPECT_EQ(refusalOf("K13=0:1:1000001"), "1000001 is no number of values");
+    EXPECT_EQ(Sweep::read("K13=0:1:1000000").values.size(), 1000000U);
 }
 
 TEST(Sweep, SeveralMakeTheirProductTheLastTheFastest) {

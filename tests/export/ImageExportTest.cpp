@@ -275,10 +275,21 @@ TEST_F(ImageExportTest, PictureOfLessThanAPixelFailsAndWritesNothing) {
 }
 
 TEST_F(ImageExportTest, FullDiskIsAFailure) {
+    const auto print = [&](std::FILE* file, int dotsPerInch) {
+        HyperboloidFrame& u = opened.hyperboloid(0);
+        return opened.window().printToPostScript(u.getSceneRoot(), file, u.getViewer(),
+                                                 dotsPerInch);
+    };
     std::FILE* file = std::fopen("/dev/full", "w");
     ASSERT_NE(file, nullptr);
-    EXPECT_FALSE(opened.window().printToPostScript(opened.hyperboloid(0).getSceneRoot(), file,
-                                                   opened.hyperboloid(0).getViewer(), printer));
+    EXPECT_FALSE(print(file, printer));
+    std::fclose(file);
+
+    constexpr int coarsePrinter = 10;
+    constexpr std::size_t roomForAll = 1U << 24;
+    file = std::fopen("/dev/full", "w");
+    std::setvbuf(file, nullptr, _IOFBF, roomForAll);
+    EXPECT_FALSE(print(file, coarsePrinter)) << "when all of it is still in the buffer";
     std::fclose(file);
 }
 

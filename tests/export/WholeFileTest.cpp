@@ -180,6 +180,23 @@ TEST_F(WholeFileTest, LinksThatLeadNowhereCannotBeOpened) {
     EXPECT_EQ(names(), QStringList({"loop", "lost"}));
 }
 
+TEST_F(WholeFileTest, AsManyLinksAreFollowedAsTheSystemFollows) {
+    constexpr int mostLinks = 40;
+    QString last = "file";
+    const auto addLink = [&](int number) {
+        const QString name = QString("link%1").arg(number);
+        ASSERT_TRUE(QFile::link(last, folder.filePath(name)));
+        last = name;
+    };
+    for (int i = 1; i <= mostLinks; ++i) {
+        addLink(i);
+    }
+    EXPECT_EQ(save(folder.filePath(last)), "");
+    EXPECT_EQ(::contentOf(folder.filePath(last)), newer);
+    addLink(mostLinks + 1);
+    EXPECT_EQ(WholeFile(folder.filePath(last)).errorString(), "Too many levels of symbolic links");
+}
+
 TEST_F(WholeFileTest, DevicesAreWrittenToAndStay) {
     const QString full = fullDevice(folder.path());
     QFile::link(full, path("linkToFull"));
