@@ -2,10 +2,10 @@
 
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QResource>
 #include <QSet>
 #include <gtest/gtest.h>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -32,10 +32,10 @@ void expectInOrder(const char* path, const std::vector<std::string>& parts) {
 }
 
 /** What a text does: without its comments, and with one blank for any number. */
-std::string statementsOf(const char* path) {
-    static const std::regex comment(R"(/\*[^]*?\*/|//[^\n]*)");
-    static const std::regex blanks(R"(\s+)");
-    return std::regex_replace(std::regex_replace(bytesOf(path), comment, ""), blanks, " ");
+QString statementsOf(const char* path) {
+    static const QRegularExpression comment(R"(/\*.*?\*/|//[^\n]*)",
+                                            QRegularExpression::DotMatchesEverythingOption);
+    return QString::fromStdString(bytesOf(path)).remove(comment).simplified();
 }
 
 struct Picture {
@@ -179,13 +179,13 @@ TEST(Resources, SolidShadersSayAndDoTheirSteps) {
 }
 
 TEST(Resources, ShadersDoNothingBesides) {
-    EXPECT_EQ(statementsOf(":/phong.vert.glsl"), " varying vec3 normal; void main(void) { "
+    EXPECT_EQ(statementsOf(":/phong.vert.glsl"), "varying vec3 normal; void main(void) { "
                                                  "normal = gl_NormalMatrix * gl_Normal; "
                                                  "gl_Position = ftransform(); "
                                                  "gl_FrontColor = gl_Color; "
-                                                 "gl_BackColor = gl_Color; } ");
+                                                 "gl_BackColor = gl_Color; }");
     EXPECT_EQ(statementsOf(":/phong.frag.glsl"),
-              " varying vec3 normal; "
+              "varying vec3 normal; "
               "void addDirectionalLight(in int i, in vec3 fragmentNormal, "
               "inout vec4 ambient, inout vec4 diffuse, inout vec4 specular) { "
               "vec3 L = normalize(gl_LightSource[i].position.xyz); "
@@ -210,11 +210,11 @@ TEST(Resources, ShadersDoNothingBesides) {
               "addDirectionalLight(i, fragmentNormal, ambient, diffuse, specular); "
               "finalColor += ambient.rgb * gl_Color.rgb + diffuse.rgb * gl_Color.rgb + "
               "specular.rgb * gl_Color.rgb; "
-              "gl_FragColor = vec4(finalColor, gl_Color.a); } ");
-    EXPECT_EQ(statementsOf(":/solid.vert.glsl"), " void main(void) { gl_Position = ftransform(); "
+              "gl_FragColor = vec4(finalColor, gl_Color.a); }");
+    EXPECT_EQ(statementsOf(":/solid.vert.glsl"), "void main(void) { gl_Position = ftransform(); "
                                                  "gl_FrontColor = gl_Color; "
-                                                 "gl_BackColor = gl_Color; } ");
-    EXPECT_EQ(statementsOf(":/solid.frag.glsl"), " void main(void) { gl_FragColor = gl_Color; } ");
+                                                 "gl_BackColor = gl_Color; }");
+    EXPECT_EQ(statementsOf(":/solid.frag.glsl"), "void main(void) { gl_FragColor = gl_Color; }");
 }
 
 TEST(Resources, PicturesHaveTheirSizesAndColourFormats) {
